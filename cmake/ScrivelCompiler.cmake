@@ -1,0 +1,26 @@
+# How every target is compiled: language, warnings, sanitizers, compiler cache.
+set(CMAKE_CXX_STANDARD 20)
+set(CMAKE_CXX_STANDARD_REQUIRED ON)
+set(CMAKE_CXX_EXTENSIONS OFF)
+set(CMAKE_EXPORT_COMPILE_COMMANDS ON)
+set(CMAKE_POSITION_INDEPENDENT_CODE ON)
+if(NOT CMAKE_BUILD_TYPE)
+    set(CMAKE_BUILD_TYPE Release)
+endif()
+
+find_program(SCRIVEL_CCACHE ccache)
+if(SCRIVEL_CCACHE)
+    set(CMAKE_CXX_COMPILER_LAUNCHER "${SCRIVEL_CCACHE}")
+endif()
+
+add_compile_options(-Wall -Wextra -Wpedantic -Wshadow -Wnon-virtual-dtor -Woverloaded-virtual
+                    -Wimplicit-fallthrough -Werror -Werror=reorder)
+add_compile_definitions(_FILE_OFFSET_BITS=64)
+if(NOT APPLE)
+    add_compile_definitions(_GNU_SOURCE)
+endif()
+if(SCRIVEL_SANITIZE)
+    add_compile_options(-fsanitize=${SCRIVEL_SANITIZE} -fno-sanitize-recover=all
+                        -fno-omit-frame-pointer -g)
+    add_link_options(-fsanitize=${SCRIVEL_SANITIZE})
+endif()

@@ -1,0 +1,27 @@
+// Bundles: the one that the program runs from, and what an Info.plist says.
+#pragma once
+
+#include <optional>
+#include <string>
+#include <string_view>
+
+namespace ports {
+
+class Bundles {
+  public:
+    virtual ~Bundles() = default;
+
+    /// Resource folder of the main bundle, absolute, without a trailing "/".
+    virtual std::string mainResourceFolder() const = 0;
+
+    /// The main bundle's executable, absolute, links resolved.
+    virtual std::string mainExecutable() const = 0;
+
+    /// The string under `key` in the information dictionary (XML or binary Info.plist) of the
+    /// bundle at `path`. None when there is no bundle, its dictionary can't be read, the key is
+    /// absent or its value is no string. Never throws; a broken file is as good as none.
+    virtual std::optional<std::string> infoString(const std::string& path,
+                                                  std::string_view key) = 0;
+};
+
+} // namespace ports
