@@ -21,11 +21,9 @@ class Administrator {
     virtual int requestRights() = 0;
 
     /// Starts the tool as administrator. When it started, `reader` gets the reading end of a pipe
-    /// that carries the tool's output and must read it to its end; `closeAfterwards` tells whether
-    /// the end is closed when `reader` returns or kept until the session is freed.
+    /// that carries the tool's output and must read it to its end and not close it.
     /// Answers 0 when the tool was started, whatever became of it, else the platform's error.
-    virtual int start(const ToolCall& call, bool closeAfterwards,
-                      const std::function<void(int)>& reader) = 0;
+    virtual int start(const ToolCall& call, const std::function<void(int)>& reader) = 0;
 
     /// Ends the session and drops its rights.
     virtual void freeSession() = 0;

@@ -1,0 +1,45 @@
+// All that the core asks of its host, handed in as one value by the composition root. Holds
+// references; whoever makes it keeps the adapters alive.
+#pragma once
+
+#include <functional>
+#include <string_view>
+
+#include "platform/ports/Administrator.h"
+#include "platform/ports/Applications.h"
+#include "platform/ports/Bundles.h"
+#include "platform/ports/Clock.h"
+#include "platform/ports/FinderFiles.h"
+#include "platform/ports/FrontEnd.h"
+#include "platform/ports/LocalizedTexts.h"
+#include "platform/ports/Queues.h"
+#include "platform/ports/SystemLog.h"
+#include "platform/ports/SystemPlaces.h"
+#include "platform/ports/TextStreams.h"
+#include "platform/ports/Tools.h"
+
+namespace ports {
+
+struct Host {
+    const SystemPlaces& places;
+    Clock& clock;
+    SystemLog& systemLog;
+    TextStreams& streams;
+    Tools& tools;
+    Administrator& administrator;
+    Applications& applications;
+    FinderFiles& finderFiles;
+    Bundles& bundles;
+    LocalizedTexts& texts;
+    MainQueue& mainQueue;
+    BackgroundQueue& backgroundQueue;
+    InterfaceFiles& interfaceFiles;
+    AlertSheets& alertSheets;
+    ModalLoop& modalLoop;
+    Appearance& appearance;
+    /// Told each message of the install log as it is written, on the thread that writes. May be
+    /// empty.
+    std::function<void(std::string_view)> logged = {};
+};
+
+} // namespace ports
