@@ -40,6 +40,25 @@ std::string shown(OptionalText text) {
     return text ? std::string(*text) : "(null)";
 }
 
+std::string formatted(std::string_view format, std::initializer_list<std::string_view> values) {
+    std::string text;
+    std::size_t next = 0;
+    for (std::size_t i = 0; i < format.size(); ++i) {
+        const std::string_view rest = format.substr(i);
+        const bool numbered = rest.size() >= 4 && rest[0] == '%' && rest[1] >= '1' &&
+                              rest[1] <= '9' && rest.substr(2, 2) == "$@";
+        if (!numbered && !rest.starts_with("%@")) {
+            text += format[i];
+            continue;
+        }
+        const std::size_t index = numbered ? static_cast<std::size_t>(rest[1] - '1') : next++;
+        const std::size_t length = numbered ? 4 : 2;
+        text += index < values.size() ? values.begin()[index] : rest.substr(0, length);
+        i += length - 1;
+    }
+    return text;
+}
+
 std::string joined(std::span<const std::string> elements) {
     std::string text;
     for (const std::string& element : elements) {

@@ -1,7 +1,8 @@
-// How values stand in log lines: missing objects, argument lists on one line, and lists in the
-// platform's old-style description. Pure functions.
+// How values stand in texts: missing objects, values filled into formats, argument lists on one
+// line, and lists in the platform's old-style description. Pure functions.
 #pragma once
 
+#include <initializer_list>
 #include <optional>
 #include <span>
 #include <string>
@@ -14,6 +15,10 @@ using OptionalText = std::optional<std::string_view>;
 
 /// The text, or "(null)" for a missing one.
 std::string shown(OptionalText text);
+
+/// A format with its "%@" filled in from the left; "%1$@" and the like, as translations use them,
+/// take the value of that number. A place without a value stays as it stands.
+std::string formatted(std::string_view format, std::initializer_list<std::string_view> values);
 
 /// The elements joined with one blank; the empty text for no elements.
 std::string joined(std::span<const std::string> elements);

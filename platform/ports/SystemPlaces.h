@@ -20,9 +20,10 @@ struct SystemPlaces {
     /// A system place such as "/Applications/Scrivel 21" as the path it has in this run.
     std::string system(std::string_view path) const { return root + std::string(path); }
 
-    /// `path` with a leading "~" replaced by the home folder; any other path unchanged.
+    /// `path` with a leading "~" replaced by the home folder, where there is one; any other path
+    /// unchanged.
     std::string expandTilde(std::string_view path) const {
-        if (path == "~" || path.starts_with("~/"))
+        if (!home.empty() && (path == "~" || path.starts_with("~/")))
             return home + std::string(path.substr(1));
         return std::string(path);
     }

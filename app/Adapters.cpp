@@ -1,0 +1,61 @@
+#include "app/Adapters.h"
+
+#include "app/SystemParts.h"
+#include "cp/private/SystemFolderBases.h"
+#include "platform/posix/DecidedAdministrator.h"
+
+namespace app {
+
+namespace {
+
+ports::SystemPlaces placesOf(const CommandLine& options) {
+    auto bases = Corvaldine::CP::Private::system_folder_bases();
+    bases.root = options.root;
+    bases.home = options.home;
+    Corvaldine::CP::Private::set_system_folder_bases(bases);
+    return {.root = bases.root, .home = bases.home, .temporary = bases.temporary};
+}
+
+std::string folderOf(const std::string& path) { return path.substr(0, path.rfind('/')); }
+
+/// Finds what runs, launches nothing: for --no-launch.
+class NoLaunches final : public ports::Applications {
+  public:
+    explicit NoLaunches(std::unique_ptr<ports::Applications> inner) : m_inner(std::move(inner)) {}
+    bool isRunning(std::string_view identifier) override { return m_inner->isRunning(identifier); }
+    bool launch(const std::string&) override { return true; }
+
+  private:
+    std::unique_ptr<ports::Applications> m_inner;
+};
+
+} // namespace
+
+Adapters::Adapters(const CommandLine& options, std::optional<bool> authorize)
+    : places(placesOf(options)), bundles(ownExecutable()),
+      texts(bundles.mainResourceFolder(),
+            options.unattended ? std::vector<std::string>{"en"} : preferredLanguages()),
+      events(clock, mainQueue),
+      spawnedTools({.ownToolsFolder = folderOf(bundles.mainExecutable()),
+                    .progress =
+                        [this](const ports::ToolProgress& progress) {
+                            mainQueue.post([this, progress] {
+                                if (showProgress)
+                                    showProgress(progress);
+                            });
+                        },
+                    .outputToError = options.events}),
+      tools(spawnedTools, events),
+      systemAdministrator(makeAdministrator(
+          options.unattended ? std::string()
+                             : folderOf(bundles.mainExecutable()) + "/scrivel-askpass")),
+      decidedAdministrator(authorize ? std::make_unique<posix::DecidedAdministrator>(
+                                           *systemAdministrator, *authorize)
+                                     : nullptr),
+      administrator(decidedAdministrator ? *decidedAdministrator : *systemAdministrator, events),
+      applications(makeApplications(places, bundles)), finderFiles(makeFinderFiles()) {
+    if (options.noLaunch)
+        applications = std::make_unique<NoLaunches>(std::move(applications));
+}
+
+} // namespace app

@@ -1,0 +1,51 @@
+// The adapters of one run: everything between the core and the system, and the watchers that tell
+// the event stream what goes by. Made by the composition root; knows no front end. The members stand
+// in the order of their needs.
+#pragma once
+
+#include <functional>
+#include <memory>
+#include <optional>
+#include <string>
+
+#include "app/CommandLine.h"
+#include "app/unattended/EventStream.h"
+#include "app/unattended/Observers.h"
+#include "platform/ports/Applications.h"
+#include "platform/ports/FinderFiles.h"
+#include "platform/ports/SystemPlaces.h"
+#include "platform/posix/FileTextStreams.h"
+#include "platform/posix/PlistBundles.h"
+#include "platform/posix/SpawnedTools.h"
+#include "platform/posix/StandardSystemLog.h"
+#include "platform/posix/StringsFileTexts.h"
+#include "platform/posix/SystemClock.h"
+#include "platform/posix/ThreadQueues.h"
+
+namespace app {
+
+struct Adapters {
+    /// `authorize` as the answers file has it; none: the host's facility decides.
+    Adapters(const CommandLine& options, std::optional<bool> authorize);
+
+    const ports::SystemPlaces places;
+    posix::MainQueue mainQueue;
+    posix::SystemClock clock;
+    posix::StandardSystemLog systemLog;
+    posix::FileTextStreams streams;
+    posix::PlistBundles bundles;
+    posix::StringsFileTexts texts;
+    EventStream events;
+    /// Told on the main thread what a tool of our own reports; set by whoever shows it.
+    std::function<void(const ports::ToolProgress&)> showProgress;
+    posix::SpawnedTools spawnedTools;
+    ObservedTools tools;
+    std::unique_ptr<ports::Administrator> systemAdministrator;
+    std::unique_ptr<ports::Administrator> decidedAdministrator;
+    ObservedAdministrator administrator;
+    std::unique_ptr<ports::Applications> applications;
+    std::unique_ptr<ports::FinderFiles> finderFiles;
+    posix::BackgroundQueue backgroundQueue;
+};
+
+} // namespace app

@@ -1,0 +1,48 @@
+// The window front end as the composition root sees it, without its toolkit. A build without Qt has
+// none: WindowFrontEnd.none.cpp stands in for WindowFrontEnd.qt.cpp.
+#pragma once
+
+#include <functional>
+#include <memory>
+#include <string>
+
+#include "platform/ports/FrontEnd.h"
+#include "platform/ports/LocalizedTexts.h"
+
+namespace app {
+
+/// The four ports that a front end implements.
+struct FrontEndPorts {
+    ports::InterfaceFiles& interfaceFiles;
+    ports::AlertSheets& alertSheets;
+    ports::ModalLoop& modalLoop;
+    ports::Appearance& appearance;
+};
+
+class WindowFrontEnd {
+  public:
+    struct Needs {
+        int& argc;
+        char** argv;
+        std::string resourceFolder;
+        const ports::LocalizedTexts& texts;
+        /// Readable while the main queue holds work.
+        int mainQueueDescriptor;
+        std::function<void()> runPending;
+    };
+
+    virtual ~WindowFrontEnd() = default;
+    virtual FrontEndPorts ports() = 0;
+};
+
+/// Can this build show a window at all?
+bool hasWindowFrontEnd();
+
+std::unique_ptr<WindowFrontEnd> makeWindowFrontEnd(const WindowFrontEnd::Needs& needs);
+
+/// Asks for a password in a small window and prints it: what `sudo` starts as its helper. Answers
+/// the exit status.
+int runPasswordDialog(int& argc, char** argv, const std::string& resourceFolder,
+                      const ports::LocalizedTexts& texts);
+
+} // namespace app

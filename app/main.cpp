@@ -1,0 +1,34 @@
+// The process entry: reads the command line and hands over. Started as "scrivel-askpass" the program
+// is the window in which sudo asks for the password.
+#include <cstdlib>
+#include <iostream>
+#include <string_view>
+
+#include "app/CommandLine.h"
+#include "app/CompositionRoot.h"
+#include "app/SystemParts.h"
+#include "app/WindowFrontEnd.h"
+#include "platform/posix/PlistBundles.h"
+#include "platform/posix/StringsFileTexts.h"
+
+namespace {
+
+int askPassword(int& argc, char** argv) {
+    const posix::PlistBundles bundles(app::ownExecutable());
+    const posix::StringsFileTexts texts(bundles.mainResourceFolder(), app::preferredLanguages());
+    return app::runPasswordDialog(argc, argv, bundles.mainResourceFolder(), texts);
+}
+
+} // namespace
+
+int main(int argc, char** argv) {
+    if (std::string_view(argv[0]).ends_with("scrivel-askpass"))
+        return askPassword(argc, argv);
+    const char* home = std::getenv("HOME");
+    const auto parsed = app::parseCommandLine({argv + 1, argv + argc}, home ? home : "");
+    std::cout << parsed.output << std::flush;
+    std::cerr << parsed.error << std::flush;
+    if (!parsed.options)
+        return parsed.exitStatus;
+    return app::runProgram(*parsed.options, argc, argv);
+}

@@ -1,0 +1,62 @@
+// An answers file: what an unattended run is to answer, choose and press. Read once, before anything
+// is started. The format is in docs/command-line.md. Holds values only.
+#pragma once
+
+#include <optional>
+#include <stdexcept>
+#include <string>
+#include <variant>
+#include <vector>
+
+#include <nlohmann/json.hpp>
+
+namespace app {
+
+/// One step of the file's "steps".
+struct PressStep {
+    std::string outlet;
+};
+/// A component as a click would set it: toggled, or set to `state`.
+struct ComponentStep {
+    std::string component;
+    std::optional<int> state;
+};
+/// A row of a radio matrix or of a table (-1: none).
+struct RowStep {
+    std::string outlet;
+    int row = 0;
+};
+struct CallStep {
+    std::string action;
+};
+/// Waits for an event that has all of these members.
+struct WaitStep {
+    nlohmann::ordered_json members;
+};
+struct SnapshotStep {
+    std::string name;
+};
+using Step =
+    std::variant<PressStep, ComponentStep, RowStep, CallStep, WaitStep, SnapshotStep>;
+
+/// The file can't be read or says something that it can't say. The text names the file, the place
+/// and the remedy.
+class AnswersFileError : public std::runtime_error {
+  public:
+    using std::runtime_error::runtime_error;
+};
+
+struct AnswersFile {
+    std::vector<std::string> answers;
+    std::vector<std::optional<std::string>> choices;
+    std::optional<bool> authorize;
+    /// None: the front end goes on by itself. An empty list presses nothing.
+    std::optional<std::vector<Step>> steps;
+
+    /// Throws AnswersFileError.
+    static AnswersFile read(const std::string& path);
+    /// The same for a text; `name` stands for the file in errors.
+    static AnswersFile parse(const std::string& text, const std::string& name);
+};
+
+} // namespace app

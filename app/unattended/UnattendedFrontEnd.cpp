@@ -1,0 +1,88 @@
+#include "app/unattended/UnattendedFrontEnd.h"
+
+#include <filesystem>
+#include <utility>
+
+#include "InterfaceDefaults.h"
+
+namespace app {
+
+namespace {
+
+/// How long the loop sleeps before it looks whether the driver's patience has run out.
+constexpr std::chrono::milliseconds kLongestSleep{50};
+
+/// The version of the toolkit that the window front end stands for.
+constexpr double kToolkitVersion = 2299;
+
+} // namespace
+
+double UnattendedFrontEnd::toolkitVersion() const { return kToolkitVersion; }
+
+bool UnattendedFrontEnd::load(std::string_view name, controls::Interface& outlets) {
+    const auto file =
+        std::filesystem::path(m_needs.resourceFolder) / (std::string(name) + ".ui");
+    std::error_code ignored;
+    if (!std::filesystem::is_regular_file(file, ignored))
+        return false;
+    for (const auto& [interface, outlet, title] : kInterfaceTitles) {
+        const auto* named = outlets.find(outlet);
+        if (interface != name || !named)
+            continue;
+        if (const auto* button = std::get_if<controls::Button*>(&named->control))
+            (*button)->setTitle(std::string(title));
+        else if (const auto* field = std::get_if<controls::TextField*>(&named->control))
+            (*field)->setText(std::string(title));
+    }
+    m_outlets = &outlets;
+    return true;
+}
+
+void UnattendedFrontEnd::beginSheet(const ports::Alert& alert, controls::Window&,
+                                    std::function<void(int)> completion) {
+    m_sheet = Sheet{alert, std::move(completion)};
+}
+
+void UnattendedFrontEnd::answer(Sheet sheet) {
+    const std::size_t index = m_needs.driver.answer(sheet.alert);
+    sheet.completion(kFirstButton + static_cast<int>(index));
+}
+
+int UnattendedFrontEnd::runModalForWindow(controls::Window& window) {
+    using Turn = AnswersDriver::Turn;
+    window.orderFront();
+    const std::size_t session = m_sessions.size();
+    m_sessions.emplace_back();
+    while (true) {
+        m_needs.runPending();
+        if (m_sessions[session])
+            break;
+        if (m_sheet) {
+            answer(*std::exchange(m_sheet, std::nullopt));
+            continue;
+        }
+        // Looked at before the driver is asked: work that ends meanwhile has queued its last hop.
+        const bool busy = m_needs.background.isBusy();
+        switch (m_needs.driver.turn(*m_outlets, busy)) {
+        case Turn::acted:
+            break;
+        case Turn::waits:
+            m_needs.waitForWork(kLongestSleep);
+            break;
+        case Turn::closeWindow:
+            window.performClose();
+            break;
+        }
+    }
+    const int code = *m_sessions[session];
+    m_sessions.pop_back();
+    window.orderOut();
+    return code;
+}
+
+void UnattendedFrontEnd::stopModalWithCode(int code) {
+    if (!m_sessions.empty() && !m_sessions.back())
+        m_sessions.back() = code;
+}
+
+} // namespace app
