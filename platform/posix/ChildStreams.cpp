@@ -1,0 +1,76 @@
+#include "platform/posix/ChildStreams.h"
+
+#include <algorithm>
+#include <array>
+#include <cerrno>
+#include <poll.h>
+#include <sys/ioctl.h>
+#include <vector>
+
+#include "platform/posix/ProcessSystem.h"
+
+namespace posix {
+
+namespace {
+
+/// Where the system can't tell when a child ends, it is asked this often (milliseconds).
+constexpr int kPollInterval = 20;
+
+using Buffer = std::array<char, 65536>;
+
+/// One read of at most `limit` bytes; closes the stream at its end.
+std::size_t takeSome(ChildStream& stream, Buffer& buffer, std::size_t limit) {
+    ssize_t count = 0;
+    do
+        count = ::read(stream.reading.number(), buffer.data(), std::min(limit, buffer.size()));
+    while (count < 0 && errno == EINTR);
+    if (count <= 0) {
+        stream.reading.close();
+        return 0;
+    }
+    stream.take({buffer.data(), static_cast<std::size_t>(count)});
+    return static_cast<std::size_t>(count);
+}
+
+/// What stands in the pipe now and no more: a process left behind may go on writing for ever.
+void takeTheRest(ChildStream& stream, Buffer& buffer) {
+    int present = 0;
+    if (!stream.reading.isOpen() || ::ioctl(stream.reading.number(), FIONREAD, &present) != 0)
+        return;
+    auto left = static_cast<std::size_t>(std::max(present, 0));
+    while (left > 0 && stream.reading.isOpen())
+        left -= takeSome(stream, buffer, left);
+}
+
+} // namespace
+
+int waitTakingIn(ChildProcess& child, std::span<ChildStream> streams) {
+    Buffer buffer;
+    const auto open = [](const ChildStream& stream) { return stream.reading.isOpen(); };
+    const Descriptor end =
+        std::ranges::any_of(streams, open) ? watchEnd(child.pid()) : Descriptor();
+    std::vector<pollfd> waiting(streams.size() + 1);
+    while (std::ranges::any_of(streams, open)) {
+        for (std::size_t i = 0; i < streams.size(); ++i)
+            waiting[i] = {streams[i].reading.number(), POLLIN, 0};
+        waiting.back() = {end.number(), POLLIN, 0};
+        if (::poll(waiting.data(), waiting.size(), end.isOpen() ? -1 : kPollInterval) < 0) {
+            if (errno == EINTR)
+                continue;
+            break;
+        }
+        if (end.isOpen() ? waiting.back().revents != 0 : child.hasEnded())
+            break;
+        for (std::size_t i = 0; i < streams.size(); ++i)
+            if (waiting[i].revents != 0)
+                takeSome(streams[i], buffer, buffer.size());
+    }
+    const int status = child.wait();
+    for (ChildStream& stream : streams) {
+        takeTheRest(stream, buffer);
+        stream.reading.close();
+    }
+    return status;
+}
+
+} // namespace posix
