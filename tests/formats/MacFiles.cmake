@@ -1,0 +1,4 @@
+scrivel_test(macfiles_test
+    AppleDoubleTest.cpp
+    LINKS scrivel_macfiles
+)
