@@ -217,10 +217,7 @@ int runProgram(const CommandLine& options, int& argc, char** argv) {
         return static_cast<int>(ExitCode::usage);
     }
     if (!options.unattended && !(hasWindowFrontEnd() && hasDisplay())) {
-        std::cerr << kProgramName
-                  << ": there is no display for a window; use --unattended to install without one, "
-                     "or set DISPLAY"
-                  << std::endl;
+        std::cerr << kProgramName << ": " << kNoDisplay << std::endl;
         return static_cast<int>(ExitCode::usage);
     }
     Run run(options, std::move(answers), argc, argv);

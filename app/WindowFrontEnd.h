@@ -5,6 +5,7 @@
 #include <functional>
 #include <memory>
 #include <string>
+#include <string_view>
 
 #include "platform/ports/FrontEnd.h"
 #include "platform/ports/LocalizedTexts.h"
@@ -34,6 +35,10 @@ class WindowFrontEnd {
     virtual ~WindowFrontEnd() = default;
     virtual FrontEndPorts ports() = 0;
 };
+
+/// Said when there is nothing to show a window on, with how to go on.
+inline constexpr std::string_view kNoDisplay =
+    "there is no display for a window; use --unattended to install without one, or set DISPLAY";
 
 /// Can this build show a window at all?
 bool hasWindowFrontEnd();

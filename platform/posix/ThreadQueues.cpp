@@ -6,6 +6,8 @@
 #include <stdexcept>
 #include <utility>
 
+#include <poll.h>
+
 #include "platform/ports/PlatformError.h"
 
 namespace posix {
@@ -57,6 +59,11 @@ std::function<void()> MainQueue::next() {
     if (m_pending.empty())
         lower(m_wake);
     return work;
+}
+
+void MainQueue::waitForWork(std::chrono::milliseconds longest) const {
+    pollfd wake{descriptor(), POLLIN, 0};
+    (void)poll(&wake, 1, static_cast<int>(longest.count()));
 }
 
 void MainQueue::runPending() {

@@ -2,6 +2,7 @@
 // watches the main queue's descriptor in its own loop, and runs what is pending.
 #pragma once
 
+#include <chrono>
 #include <deque>
 #include <functional>
 #include <mutex>
@@ -26,6 +27,9 @@ class MainQueue final : public ports::MainQueue {
 
     /// Readable exactly while work is pending; for poll(2) and its like. Never read it.
     int descriptor() const { return m_wake.reading.number(); }
+
+    /// Main thread: waits until work is pending, at most this long. For loops without a toolkit.
+    void waitForWork(std::chrono::milliseconds longest) const;
 
     /// Main thread: runs the work that was pending when this was called, in its order. Work that
     /// it posts waits for the next call. May be called from within work, as a nested loop does;

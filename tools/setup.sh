@@ -1,0 +1,51 @@
+# Shared by ./run, ./test and the longer commands: the packages that a fresh Debian 12 needs, and the
+# build. Sourced by bash in the project's folder.
+
+# What a build needs.
+build_packages=(
+    g++ cmake ninja-build pkg-config git ca-certificates
+    qt6-base-dev qt6-tools-dev libqt6opengl6-dev libqt6svg6 qt6-image-formats-plugins fonts-inter
+    libplist-dev nlohmann-json3-dev libcli11-dev libdeflate-dev zlib1g-dev uuid-dev
+    libgtest-dev libgmock-dev
+)
+# What the tests compare with and run in.
+test_packages=(zip unzip attr xvfb xauth xdotool x11-utils sudo procps)
+# A display where there is none, and pictures of it.
+virtual_display_packages=(xvfb xauth xdotool x11-utils imagemagick)
+
+say() { printf '%s\n' "== $*"; }
+
+# Installs the packages that are missing; does nothing, and needs no network, when none is.
+need_packages() {
+    command -v dpkg-query >/dev/null || return 0 # another system: its packages are its user's care
+    local missing=() package
+    for package in "$@"; do
+        dpkg-query -W -f '${Status}' "$package" 2>/dev/null | grep -q 'ok installed' ||
+            missing+=("$package")
+    done
+    [ ${#missing[@]} -gt 0 ] || return 0
+    local as_root=()
+    if [ "$(id -u)" -ne 0 ]; then
+        command -v sudo >/dev/null || {
+            echo "These packages are missing: ${missing[*]}. Install them as root, then start again." >&2
+            exit 1
+        }
+        as_root=(sudo)
+    fi
+    say "Installing packages: ${missing[*]}"
+    "${as_root[@]}" apt-get update -q
+    DEBIAN_FRONTEND=noninteractive "${as_root[@]}" \
+        apt-get install -q -y --no-install-recommends "${missing[@]}"
+}
+
+# Configures and builds a preset; the release preset's folder is build/.
+build() {
+    say "Building (preset $1)"
+    cmake --preset "$1" >"${TMPDIR:-/tmp}/scrivel-configure.$$" 2>&1 || {
+        cat "${TMPDIR:-/tmp}/scrivel-configure.$$" >&2
+        rm -f "${TMPDIR:-/tmp}/scrivel-configure.$$"
+        exit 1
+    }
+    rm -f "${TMPDIR:-/tmp}/scrivel-configure.$$"
+    cmake --build --preset "$1"
+}
