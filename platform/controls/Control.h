@@ -16,6 +16,8 @@ class Control {
         virtual void controlChanged(Control& control) = 0;
         /// Draw at once: the main thread is about to be busy.
         virtual void displayNow(Control&) {}
+        /// The control dies: forget it. Only its address may be used any more.
+        virtual void controlDestroyed(Control&) {}
 
       protected:
         ~Observer() = default;
@@ -25,7 +27,7 @@ class Control {
     Control(const Control&) = delete;
     Control& operator=(const Control&) = delete;
 
-    /// An observer must remove itself before it dies; it may outlive the control only if it does.
+    /// An observer must remove itself before it dies, unless the control has died before it.
     void addObserver(Observer& observer) { m_observers.push_back(&observer); }
     void removeObserver(Observer& observer) { std::erase(m_observers, &observer); }
 
@@ -41,7 +43,10 @@ class Control {
     }
 
   protected:
-    ~Control() = default;
+    ~Control() {
+        for (Observer* observer : std::vector(m_observers))
+            observer->controlDestroyed(*this);
+    }
 
     template <class T, class U>
     void change(T& field, U&& value) {

@@ -2,7 +2,9 @@
 // All on the main thread.
 #pragma once
 
+#include <cstddef>
 #include <functional>
+#include <optional>
 #include <string>
 #include <string_view>
 #include <vector>
@@ -31,6 +33,8 @@ struct Alert {
     std::string informative;
     /// Titles in their order; the first is the default button.
     std::vector<std::string> buttons;
+    /// Index of the button that Escape and closing the sheet answer with; none: the last one.
+    std::optional<std::size_t> escapeButton = std::nullopt;
 };
 
 class AlertSheets {
@@ -43,7 +47,7 @@ class AlertSheets {
 
     /// Shows `alert` as a sheet on `window` and returns at once. `completion` gets the code of the
     /// button, later and on the main thread, when the sheet is gone. Escape and closing the sheet
-    /// answer with the last button.
+    /// answer with `Alert::escapeButton`.
     virtual void beginSheet(const Alert& alert, controls::Window& window,
                             std::function<void(int)> completion) = 0;
 };

@@ -1,0 +1,179 @@
+#include "tests/ui/Stage.h"
+
+#include <fcntl.h>
+#include <plist/plist.h>
+#include <unistd.h>
+
+#include <cstdlib>
+#include <exception>
+#include <future>
+#include <stdexcept>
+
+#include <QApplication>
+#include <QDir>
+#include <QFile>
+#include <QPainter>
+#include <QWidget>
+
+namespace stage {
+
+TableTexts::TableTexts(const std::string& language) {
+    QFile file(
+        QString::fromStdString(SCRIVEL_RESOURCES "/" + language + ".lproj/Localizable.strings"));
+    if (!file.open(QIODevice::ReadOnly))
+        throw std::runtime_error("no translation " + language);
+    const QByteArray xml = file.readAll();
+    plist_t root = nullptr;
+    plist_from_xml(xml.constData(), static_cast<std::uint32_t>(xml.size()), &root);
+    plist_dict_iter at = nullptr;
+    plist_dict_new_iter(root, &at);
+    for (;;) {
+        char* key = nullptr;
+        char* text = nullptr;
+        plist_t value = nullptr;
+        plist_dict_next_item(root, at, &key, &value);
+        if (!value)
+            break;
+        plist_get_string_val(value, &text);
+        m_table.emplace(key, text);
+        std::free(key);
+        std::free(text);
+    }
+    std::free(at);
+    plist_free(root);
+}
+
+std::string TableTexts::lookUp(std::string_view key) const {
+    const auto found = m_table.find(key);
+    return found == m_table.end() ? std::string(key) : found->second;
+}
+
+std::string formatted(const ports::LocalizedTexts& texts, std::string_view key,
+                      std::initializer_list<std::string_view> values) {
+    std::string text = texts.lookUp(key);
+    std::size_t at = 0;
+    for (const std::string_view value : values) {
+        at = text.find("%@", at);
+        if (at == std::string::npos)
+            break;
+        text.replace(at, 2, value);
+        at += value.size();
+    }
+    return text;
+}
+
+Resources::Resources() {
+    QFile::copy(SCRIVEL_RESOURCES "/ScrivelInstaller.ui", m_folder.filePath("ScrivelInstaller.ui"));
+    const QDir pictures(SCRIVEL_PICTURES);
+    for (const QString& name : pictures.entryList({"*.icns"}))
+        QFile::copy(pictures.filePath(name), m_folder.filePath(name));
+}
+
+void Resources::write(const QString& name, const QByteArray& content) const {
+    QFile::remove(m_folder.filePath(name));
+    QFile file(m_folder.filePath(name));
+    if (!file.open(QIODevice::WriteOnly) || file.write(content) != content.size())
+        throw std::runtime_error("cannot write " + name.toStdString());
+}
+
+PipeQueue::PipeQueue() {
+    if (pipe2(m_ends, O_CLOEXEC | O_NONBLOCK) != 0)
+        throw std::runtime_error("no pipe");
+}
+
+PipeQueue::~PipeQueue() {
+    close(m_ends[0]);
+    close(m_ends[1]);
+}
+
+void PipeQueue::post(std::function<void()> work) {
+    {
+        const std::lock_guard lock(m_mutex);
+        m_work.push_back(std::move(work));
+    }
+    std::ignore = write(m_ends[1], "!", 1); // a full pipe is readable as well
+}
+
+void PipeQueue::sync(const std::function<void()>& work) {
+    std::promise<void> done;
+    post([&] {
+        try {
+            work();
+            done.set_value();
+        } catch (...) {
+            done.set_exception(std::current_exception());
+        }
+    });
+    done.get_future().get();
+}
+
+void PipeQueue::runPending() {
+    char bytes[64];
+    while (read(m_ends[0], bytes, sizeof bytes) > 0) {
+    }
+    for (;;) {
+        std::function<void()> work;
+        {
+            const std::lock_guard lock(m_mutex);
+            if (m_work.empty())
+                return;
+            work = std::move(m_work.front());
+            m_work.pop_front();
+        }
+        work();
+    }
+}
+
+void InstallerModels::setBlackTitle(const std::string& title) {
+    m_button.setAttributedTitle(controls::StyledText::coloured(title, controls::Colour::black()));
+}
+
+void InstallerModels::beginInstalling(const ports::LocalizedTexts& texts) {
+    setBlackTitle(texts.lookUp("Cancel"));
+    m_progressIndicator.setHidden(false);
+    m_progressIndicator.startAnimation();
+    m_statusTextField.setText(formatted(texts, "Extracting %@…", {"Scrivel 21"}));
+}
+
+ports::Alert runningAlert(const ports::LocalizedTexts& texts) {
+    return {.style = ports::AlertStyle::critical,
+            .message = formatted(
+                texts, "Scrivel and Microsoft Word cannot be open during %@ installation.",
+                {"Scrivel 21"}),
+            .informative = texts.lookUp("Please quit Scrivel and Microsoft Word and click the OK "
+                                        "button to continue, or click the Quit Installer button to "
+                                        "quit this installer."),
+            .buttons = {texts.lookUp("OK"), texts.lookUp("Quit Installer")}};
+}
+
+ports::Alert overwriteAlert(const ports::LocalizedTexts& texts) {
+    return {.style = ports::AlertStyle::warning,
+            .message = formatted(texts, "Would you like to overwrite the %@ at /Applications/%@?",
+                                 {"Scrivel 21", "Scrivel 21"}),
+            .informative = formatted(texts,
+                                     "You are about to install %@ version %@, but version %@ is "
+                                     "already installed.  This cannot be undone.",
+                                     {"Scrivel 21", "21.0.0.19023", "21.0.0.18440"}),
+            .buttons = {texts.lookUp("No"), texts.lookUp("Yes")},
+            .escapeButton = 0};
+}
+
+ports::Alert unableAlert(const ports::LocalizedTexts& texts) {
+    return {.style = ports::AlertStyle::critical,
+            .message = formatted(texts, "Unable to retreived required files for %@ installation.",
+                                 {"Scrivel 21"}),
+            .informative = texts.lookUp("Please try again later."),
+            .buttons = {texts.lookUp("OK")}};
+}
+
+QImage pictureOf(const QWidget& window) {
+    QPixmap screen = const_cast<QWidget&>(window).grab();
+    QPainter painter(&screen);
+    for (QWidget* other : QApplication::topLevelWidgets())
+        if (other->isVisible() && other->parentWidget() == &window)
+            painter.drawPixmap(other->pos() - window.pos(), other->grab());
+    painter.end();
+    return screen.toImage();
+}
+
+} // namespace stage

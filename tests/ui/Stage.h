@@ -1,0 +1,93 @@
+// What the tests of the front end share: a resource folder as the bundle has it, translations from
+// the real tables, a main queue, and the installer window's models with its alerts.
+#pragma once
+
+#include <condition_variable>
+#include <deque>
+#include <map>
+#include <memory>
+#include <mutex>
+#include <optional>
+#include <string>
+#include <thread>
+
+#include <QImage>
+#include <QTemporaryDir>
+
+#include "platform/controls/Interface.h"
+#include "platform/ports/FrontEnd.h"
+#include "platform/ports/LocalizedTexts.h"
+#include "platform/ports/Queues.h"
+
+namespace stage {
+
+/// The texts of one of the project's translations ("en", "de", ...).
+class TableTexts final : public ports::LocalizedTexts {
+  public:
+    explicit TableTexts(const std::string& language);
+    std::string lookUp(std::string_view key) const override;
+    const std::map<std::string, std::string, std::less<>>& table() const { return m_table; }
+
+  private:
+    std::map<std::string, std::string, std::less<>> m_table;
+};
+
+/// The key's translation with each "%@" replaced.
+std::string formatted(const ports::LocalizedTexts& texts, std::string_view key,
+                      std::initializer_list<std::string_view> values);
+
+/// A resource folder with the interface file and the pictures, gone with this.
+class Resources {
+  public:
+    Resources();
+    std::string folder() const { return m_folder.path().toStdString(); }
+    void write(const QString& name, const QByteArray& content) const;
+
+  private:
+    QTemporaryDir m_folder;
+};
+
+/// A main queue over a pipe, for the thread that makes it.
+class PipeQueue final : public ports::MainQueue {
+  public:
+    PipeQueue();
+    ~PipeQueue();
+    void post(std::function<void()> work) override;
+    void sync(const std::function<void()>& work) override;
+    bool isMainThread() const override { return std::this_thread::get_id() == m_main; }
+
+    int descriptor() const { return m_ends[0]; }
+    void runPending();
+
+  private:
+    std::thread::id m_main = std::this_thread::get_id();
+    int m_ends[2];
+    std::mutex m_mutex;
+    std::deque<std::function<void()>> m_work;
+};
+
+/// The models of the installer window, named as in its interface file.
+struct InstallerModels {
+    controls::Window window;
+    controls::Button m_button;
+    controls::TextField m_statusTextField;
+    controls::Progress m_progressIndicator;
+    controls::Interface outlets{window,
+                                {{"m_button", &m_button},
+                                 {"m_statusTextField", &m_statusTextField},
+                                 {"m_progressIndicator", &m_progressIndicator}}};
+
+    /// Titles as the installer's flow sets them: black on every toolkit that follows a dark
+    /// desktop.
+    void setBlackTitle(const std::string& title);
+    void beginInstalling(const ports::LocalizedTexts& texts);
+};
+
+ports::Alert runningAlert(const ports::LocalizedTexts& texts);
+ports::Alert overwriteAlert(const ports::LocalizedTexts& texts);
+ports::Alert unableAlert(const ports::LocalizedTexts& texts);
+
+/// The window with the sheets that hang on it, as the screen would show them.
+QImage pictureOf(const QWidget& window);
+
+} // namespace stage

@@ -1,0 +1,50 @@
+// The window front end: owns the toolkit's application object and implements the front-end ports.
+// Made once by the composition root, before the objects whose windows it shows; those may die
+// first. This header shows no toolkit. Main thread only.
+#pragma once
+
+#include <functional>
+#include <memory>
+#include <optional>
+#include <string>
+
+#include "platform/ports/FrontEnd.h"
+#include "platform/ports/LocalizedTexts.h"
+
+namespace ui {
+
+class GuiFrontEnd {
+  public:
+    struct Needs {
+        /// The toolkit takes its own options out of them. Both outlive the front end.
+        int& argc;
+        char** argv;
+        /// Where interface files and pictures are.
+        std::string resourceFolder;
+        const ports::LocalizedTexts& texts;
+        /// Readable when the main queue has work; `runPending` does that work and makes it
+        /// unreadable again before it runs the first piece, which may start a loop of its own.
+        int mainQueueDescriptor;
+        std::function<void()> runPending;
+        /// None: as the desktop has it.
+        std::optional<bool> dark;
+        /// Called when no display can be opened: says so and ends the process. Without it the
+        /// toolkit's own message and abort stand.
+        std::function<void()> onNoDisplay = {};
+    };
+    explicit GuiFrontEnd(Needs needs);
+    ~GuiFrontEnd();
+    GuiFrontEnd(const GuiFrontEnd&) = delete;
+    GuiFrontEnd& operator=(const GuiFrontEnd&) = delete;
+
+    ports::InterfaceFiles& interfaceFiles();
+    ports::AlertSheets& alertSheets();
+    ports::ModalLoop& modalLoop();
+    ports::Appearance& appearance();
+
+  private:
+    struct Parts;
+    std::unique_ptr<Parts> m_parts;
+};
+
+} // namespace ui

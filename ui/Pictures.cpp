@@ -1,0 +1,22 @@
+#include "ui/Pictures.h"
+
+#include "ui/IcnsFile.h"
+
+namespace ui {
+
+QPixmap Pictures::square(const QString& file, int points, qreal ratio) {
+    const int pixels = qRound(points * ratio);
+    QPixmap& pixmap = m_byPixels[{file, pixels}];
+    if (pixmap.isNull()) {
+        auto image = icns::read(m_resourceFolder + '/' + file, pixels);
+        if (!image)
+            return {};
+        if (image->width() != pixels)
+            *image = image->scaled(pixels, pixels, Qt::KeepAspectRatio, Qt::SmoothTransformation);
+        pixmap = QPixmap::fromImage(std::move(*image));
+        pixmap.setDevicePixelRatio(ratio);
+    }
+    return pixmap;
+}
+
+} // namespace ui

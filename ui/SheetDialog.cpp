@@ -1,0 +1,156 @@
+#include "ui/SheetDialog.h"
+
+#include <algorithm>
+#include <utility>
+
+#include <QBoxLayout>
+#include <QCloseEvent>
+#include <QLabel>
+#include <QPainter>
+#include <QPushButton>
+#include <QScreen>
+
+#include "ui/AlertIcon.h"
+#include "ui/Keys.h"
+#include "ui/Theme.h"
+
+namespace ui {
+
+namespace {
+
+constexpr int kMargin = 24;
+constexpr int kSignSize = 52;
+constexpr int kTextWidth = 372;
+constexpr int kGap = 8;
+
+/// Lies over the window's content while a sheet hangs there.
+class Shade final : public QWidget {
+  public:
+    explicit Shade(QWidget& window) : QWidget(&window) {
+        setGeometry(window.rect());
+        show();
+        raise();
+    }
+
+  protected:
+    void paintEvent(QPaintEvent*) override { QPainter(this).fillRect(rect(), QColor(0, 0, 0, 90)); }
+};
+
+QLabel* paragraph(const std::string& text, const char* style) {
+    auto* label = new QLabel(QString::fromStdString(text));
+    label->setProperty(kLook, style);
+    label->setTextFormat(Qt::PlainText);
+    label->setWordWrap(true);
+    label->setFixedWidth(kTextWidth);
+    return label;
+}
+
+} // namespace
+
+SheetDialog::SheetDialog(const ports::Alert& alert, QWidget* parent,
+                         std::function<void(int)> answered)
+    : QDialog(parent, parent ? Qt::Sheet | Qt::FramelessWindowHint : Qt::Dialog),
+      m_answered(std::move(answered)),
+      m_escapeButton(static_cast<int>(alert.escapeButton.value_or(std::max<std::size_t>(alert.buttons.size(), 1) - 1))) {
+    setWindowModality(parent ? Qt::WindowModal : Qt::ApplicationModal);
+    if (parent) {
+        setWindowTitle(parent->windowTitle());
+        parent->installEventFilter(this);
+    }
+    setAccessibleName(QString::fromStdString(alert.message));
+    setAccessibleDescription(QString::fromStdString(alert.informative));
+
+    auto* sign = new QLabel;
+    sign->setPixmap(alertIcon(alert.style, kSignSize, devicePixelRatioF()));
+    sign->setAccessibleName(QString::fromStdString(alert.message));
+    auto* texts = new QVBoxLayout;
+    texts->setSpacing(kGap);
+    texts->addWidget(paragraph(alert.message, "strong"));
+    if (!alert.informative.empty())
+        texts->addWidget(paragraph(alert.informative, "body"));
+    texts->addStretch();
+    auto* content = new QHBoxLayout;
+    content->setSpacing(20);
+    content->addWidget(sign, 0, Qt::AlignTop);
+    content->addLayout(texts);
+
+    auto* buttons = new QHBoxLayout;
+    buttons->setSpacing(kGap);
+    addButtons(alert, *buttons);
+
+    auto* page = new QVBoxLayout(this);
+    page->setContentsMargins(kMargin, kMargin, kMargin, kMargin - 4);
+    page->setSpacing(20);
+    page->setSizeConstraint(QLayout::SetFixedSize);
+    page->addLayout(content);
+    page->addLayout(buttons);
+}
+
+SheetDialog::~SheetDialog() {
+    delete m_shade;
+}
+
+void SheetDialog::addButtons(const ports::Alert& alert, QBoxLayout& row) {
+    // the default button stands last in the row and comes first with the Tab key
+    row.addStretch();
+    QWidget* before = nullptr;
+    for (int i = 0; i < static_cast<int>(alert.buttons.size()); ++i) {
+        auto* button = new QPushButton(
+            QString::fromStdString(alert.buttons[static_cast<std::size_t>(i)]).replace('&', "&&"),
+            this);
+        button->setDefault(i == 0);
+        button->installEventFilter(this);
+        connect(button, &QPushButton::clicked, this, [this, i] { answer(i); });
+        row.insertWidget(1, button);
+        if (before)
+            setTabOrder(before, button);
+        else
+            button->setFocus();
+        before = button;
+    }
+}
+
+void SheetDialog::answer(int index) {
+    const auto answered = std::exchange(m_answered, nullptr);
+    if (!answered)
+        return;
+    hide();
+    delete m_shade;
+    answered(index);
+}
+
+void SheetDialog::showEvent(QShowEvent* event) {
+    adjustSize();
+    if (parentWidget()) {
+        const QWidget& window = *parentWidget();
+        move(window.mapToGlobal(QPoint((window.width() - width()) / 2, 0)));
+        m_shade = new Shade(*parentWidget());
+    }
+    QDialog::showEvent(event);
+}
+
+void SheetDialog::closeEvent(QCloseEvent* event) {
+    event->ignore();
+    reject();
+}
+
+void SheetDialog::paintEvent(QPaintEvent*) {
+    QPainter painter(this);
+    painter.fillRect(rect(), palette().color(QPalette::Window));
+    painter.setPen(palette().color(QPalette::Mid));
+    painter.drawRect(rect().adjusted(0, 0, -1, -1));
+}
+
+bool SheetDialog::eventFilter(QObject* watched, QEvent* event) {
+    if (watched == parent()) {
+        if (event->type() == QEvent::Hide && !event->spontaneous()) {
+            m_answered = nullptr;
+            hide();
+            deleteLater();
+        }
+        return false;
+    }
+    return isHeldReturn(*event) || QDialog::eventFilter(watched, event);
+}
+
+} // namespace ui

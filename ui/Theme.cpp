@@ -1,0 +1,167 @@
+#include "ui/Theme.h"
+
+#include <QApplication>
+#include <QFontDatabase>
+#include <QPainter>
+#include <QPushButton>
+#include <QStyleOptionButton>
+
+#include "ui/Colours.h"
+
+namespace ui {
+
+namespace {
+
+constexpr qreal kRadius = 6;
+constexpr int kButtonHeight = 32;
+constexpr int kButtonWidth = 96;
+
+struct Look {
+    const char* name;
+    /// What the widget's text and ground take their colour from.
+    QPalette::ColorRole text, ground;
+    qreal pointSize = 10;
+    QFont::Weight weight = QFont::Normal;
+};
+
+constexpr Look kLooks[] = {
+    {"title", QPalette::WindowText, QPalette::Window, 22, QFont::DemiBold},
+    {"body", QPalette::WindowText, QPalette::Window, 10.5},
+    {"strong", QPalette::WindowText, QPalette::Window, 10.5, QFont::DemiBold},
+    {"status", QPalette::WindowText, QPalette::Window, 10.5},
+    {"secondary", QPalette::PlaceholderText, QPalette::Window},
+    {"raised", QPalette::WindowText, QPalette::Base},
+    {"line", QPalette::Mid, QPalette::Window},
+};
+
+QColor titleColour(const QWidget* widget) {
+    return widget ? widget->property(kTitleColour).value<QColor>() : QColor();
+}
+
+bool isDefault(const QStyleOption* option) {
+    const auto* button = qstyleoption_cast<const QStyleOptionButton*>(option);
+    return button && (button->features & QStyleOptionButton::DefaultButton);
+}
+
+ButtonFaces facesFor(const QStyleOption* option, const QWidget* widget) {
+    if (!(option->state & QStyle::State_Enabled)) {
+        const QColor window = option->palette.color(QPalette::Window);
+        const QColor face = window.lightness() < 128 ? window.lighter(118) : window.darker(102);
+        return {face, face, face, option->palette.color(QPalette::Mid)};
+    }
+    const QColor colour = titleColour(widget);
+    return colour.isValid() ? buttonFacesUnder(colour, option->palette, isDefault(option))
+                            : buttonFaces(option->palette, isDefault(option));
+}
+
+void drawButtonFace(const QStyleOption* option, QPainter* painter, const QWidget* widget) {
+    const ButtonFaces faces = facesFor(option, widget);
+    const bool down = option->state & (QStyle::State_Sunken | QStyle::State_On);
+    const bool hover = option->state & QStyle::State_MouseOver;
+    const QRectF frame = QRectF(option->rect).adjusted(0.5, 0.5, -0.5, -0.5);
+    painter->save();
+    painter->setRenderHint(QPainter::Antialiasing);
+    painter->setPen(QPen(faces.border, 1));
+    painter->setBrush(down ? faces.pressed : hover ? faces.hover : faces.rest);
+    painter->drawRoundedRect(frame, kRadius, kRadius);
+    const auto byKeyboard = QStyle::State_HasFocus | QStyle::State_KeyboardFocusChange;
+    if ((option->state & byKeyboard) == byKeyboard) {
+        const bool light = faces.rest.lightness() >= 128;
+        painter->setPen(QPen(light ? QColor(0x00, 0x4b, 0x80) : QColor(255, 255, 255, 200), 1.5));
+        painter->setBrush(Qt::NoBrush);
+        painter->drawRoundedRect(frame.adjusted(2.5, 2.5, -2.5, -2.5), kRadius - 2, kRadius - 2);
+    }
+    painter->restore();
+}
+
+} // namespace
+
+Theme::Theme() : QProxyStyle("fusion") {}
+
+void Theme::install(QApplication& application, bool dark) {
+    QFont font = QFontDatabase::systemFont(QFontDatabase::GeneralFont);
+    font.setFamilies(QStringList{"Inter", "Noto Sans", "Cantarell", "DejaVu Sans"} +
+                     font.families());
+    font.setPointSizeF(10);
+    QApplication::setFont(font);
+    QApplication::setPalette(paletteFor(dark));
+    application.setStyle(new Theme);
+}
+
+void Theme::polish(QWidget* widget) {
+    QProxyStyle::polish(widget);
+    if (qobject_cast<QPushButton*>(widget))
+        widget->setAttribute(Qt::WA_Hover);
+    const QString name = widget->property(kLook).toString();
+    for (const Look& look : kLooks) {
+        if (name != QLatin1String(look.name))
+            continue;
+        QFont font = QApplication::font();
+        font.setPointSizeF(look.pointSize);
+        font.setWeight(look.weight);
+        widget->setFont(font);
+        const QPalette appearance = QApplication::palette();
+        QPalette palette = widget->palette();
+        palette.setColor(QPalette::WindowText, appearance.color(look.text));
+        palette.setColor(QPalette::Window, appearance.color(look.ground));
+        widget->setPalette(palette);
+    }
+}
+
+int Theme::pixelMetric(PixelMetric metric, const QStyleOption* option,
+                       const QWidget* widget) const {
+    switch (metric) {
+    case PM_ButtonShiftHorizontal:
+    case PM_ButtonShiftVertical:
+        return 0;
+    default:
+        return QProxyStyle::pixelMetric(metric, option, widget);
+    }
+}
+
+int Theme::styleHint(StyleHint hint, const QStyleOption* option, const QWidget* widget,
+                     QStyleHintReturn* answer) const {
+    switch (hint) {
+    case SH_UnderlineShortcut:
+    case SH_DialogButtonBox_ButtonsHaveIcons:
+        return 0;
+    default:
+        return QProxyStyle::styleHint(hint, option, widget, answer);
+    }
+}
+
+QSize Theme::sizeFromContents(ContentsType type, const QStyleOption* option, const QSize& size,
+                              const QWidget* widget) const {
+    const QSize plain = QProxyStyle::sizeFromContents(type, option, size, widget);
+    if (type == CT_PushButton)
+        return plain.expandedTo({plain.width() + 12, kButtonHeight}).expandedTo({kButtonWidth, 0});
+    if (type == CT_LineEdit)
+        return plain.expandedTo({0, kButtonHeight});
+    return plain;
+}
+
+void Theme::drawPrimitive(PrimitiveElement element, const QStyleOption* option, QPainter* painter,
+                          const QWidget* widget) const {
+    if (element == PE_PanelButtonCommand)
+        return drawButtonFace(option, painter, widget);
+    if (element == PE_FrameFocusRect && qobject_cast<const QPushButton*>(widget))
+        return; // the face has its own ring
+    QProxyStyle::drawPrimitive(element, option, painter, widget);
+}
+
+void Theme::drawControl(ControlElement element, const QStyleOption* option, QPainter* painter,
+                        const QWidget* widget) const {
+    const auto* button = qstyleoption_cast<const QStyleOptionButton*>(option);
+    if (element == CE_PushButtonLabel && button && (button->state & State_Enabled)) {
+        const QColor own = titleColour(widget);
+        QStyleOptionButton coloured = *button;
+        if (own.isValid())
+            coloured.palette.setColor(QPalette::ButtonText, own);
+        else if (isDefault(option))
+            coloured.palette.setColor(QPalette::ButtonText, Qt::white);
+        return QProxyStyle::drawControl(element, &coloured, painter, widget);
+    }
+    QProxyStyle::drawControl(element, option, painter, widget);
+}
+
+} // namespace ui

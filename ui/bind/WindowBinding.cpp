@@ -1,0 +1,77 @@
+#include "ui/bind/WindowBinding.h"
+
+#include <algorithm>
+
+#include <QEvent>
+#include <QScreen>
+
+#include "ui/Keys.h"
+#include "ui/ProgressBar.h"
+
+namespace ui {
+
+WindowBinding::WindowBinding(controls::Window& window, QDialog& widget)
+    : Binding(window), m_widget(widget) {
+    window.setTitle(widget.windowTitle().toStdString());
+    window.setEnabled(widget.isEnabled());
+    for (QPushButton* button : widget.findChildren<QPushButton*>())
+        if (button->isDefault())
+            m_default = button;
+    for (ProgressBar* bar : widget.findChildren<ProgressBar*>())
+        connect(bar, &ProgressBar::runningChanged, this, [this] { busyChanged(); });
+    widget.installEventFilter(this);
+    mirror(window);
+}
+
+void WindowBinding::mirror(const controls::Window& window) {
+    m_widget.setWindowTitle(QString::fromStdString(window.title()));
+    m_widget.setEnabled(window.isEnabled());
+    if (window.isVisible() != m_widget.isVisible())
+        window.isVisible() ? show() : m_widget.hide();
+}
+
+void WindowBinding::show() {
+    if (!m_placed) {
+        // only the first time: later the window stays where the user has put it
+        m_placed = true;
+        m_widget.adjustSize();
+        QRect frame(QPoint(), m_widget.size());
+        frame.moveCenter(m_widget.screen()->availableGeometry().center());
+        m_widget.move(frame.topLeft());
+    }
+    m_widget.show();
+    m_widget.activateWindow();
+}
+
+bool WindowBinding::isBusy() const {
+    return std::ranges::any_of(m_widget.findChildren<ProgressBar*>(),
+                               [](const ProgressBar* bar) { return bar->isRunning(); });
+}
+
+void WindowBinding::busyChanged() {
+    if (!m_default)
+        return;
+    const bool busy = isBusy();
+    m_default->setAutoDefault(!busy);
+    m_default->setDefault(!busy);
+}
+
+bool WindowBinding::eventFilter(QObject* watched, QEvent* event) {
+    if (!model())
+        return QObject::eventFilter(watched, event);
+    if (event->type() == QEvent::Close) {
+        event->ignore();
+        model()->performClose();
+        return true;
+    }
+    if (isHeldReturn(*event))
+        return true;
+    if (isEscape(*event) || isCloseKey(*event)) {
+        if (!isBusy() || !isEscape(*event))
+            model()->performClose();
+        return true;
+    }
+    return QObject::eventFilter(watched, event);
+}
+
+} // namespace ui
