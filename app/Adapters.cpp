@@ -1,7 +1,7 @@
 #include "app/Adapters.h"
 
 #include "app/SystemParts.h"
-#include "cp/private/SystemFolderBases.h"
+#include "cp/private/SystemFolders.h"
 #include "platform/posix/DecidedAdministrator.h"
 
 namespace app {
@@ -16,7 +16,9 @@ ports::SystemPlaces placesOf(const CommandLine& options) {
     return {.root = bases.root, .home = bases.home, .temporary = bases.temporary};
 }
 
-std::string folderOf(const std::string& path) { return path.substr(0, path.rfind('/')); }
+std::string folderOf(const std::string& path) {
+    return path.substr(0, path.rfind('/'));
+}
 
 /// Finds what runs, launches nothing: for --no-launch.
 class NoLaunches final : public ports::Applications {
@@ -33,25 +35,25 @@ class NoLaunches final : public ports::Applications {
 
 Adapters::Adapters(const CommandLine& options, std::optional<bool> authorize)
     : places(placesOf(options)), bundles(ownExecutable()),
-      texts(bundles.mainResourceFolder(),
-            options.unattended ? std::vector<std::string>{"en"} : preferredLanguages()),
-      events(clock, mainQueue),
-      spawnedTools({.ownToolsFolder = folderOf(bundles.mainExecutable()),
-                    .progress =
-                        [this](const ports::ToolProgress& progress) {
-                            mainQueue.post([this, progress] {
-                                if (showProgress)
-                                    showProgress(progress);
-                            });
-                        },
-                    .outputToError = options.events}),
+      texts({.resourceFolder = bundles.mainResourceFolder(),
+             .languages = options.unattended ? std::vector<std::string>{} : preferredLanguages()}),
+      events(clock, mainQueue), spawnedTools({.ownToolsFolder = folderOf(bundles.mainExecutable()),
+                                              .progress =
+                                                  [this](const ports::ToolProgress& progress) {
+                                                      mainQueue.post([this, progress] {
+                                                          if (showProgress)
+                                                              showProgress(progress);
+                                                      });
+                                                  },
+                                              .outputToError = options.events}),
       tools(spawnedTools, events),
-      systemAdministrator(makeAdministrator(
-          options.unattended ? std::string()
-                             : folderOf(bundles.mainExecutable()) + "/scrivel-askpass")),
-      decidedAdministrator(authorize ? std::make_unique<posix::DecidedAdministrator>(
-                                           *systemAdministrator, *authorize)
-                                     : nullptr),
+      systemAdministrator(makeAdministrator(folderOf(bundles.mainExecutable()),
+                                            options.unattended ? "" : "scrivel-askpass")),
+      decidedAdministrator(
+          authorize
+              ? std::make_unique<posix::DecidedAdministrator>(posix::DecidedAdministrator::Needs{
+                    .inner = *systemAdministrator, .authorize = *authorize})
+              : nullptr),
       administrator(decidedAdministrator ? *decidedAdministrator : *systemAdministrator, events),
       applications(makeApplications(places, bundles)), finderFiles(makeFinderFiles()) {
     if (options.noLaunch)

@@ -76,10 +76,8 @@ ParsedCommandLine parseCommandLine(std::vector<std::string> arguments,
     if (help)
         return {{}, parser.help(), {}, 0};
     if (version)
-        return {{},
-                std::string(kProgramName) + " " + std::string(ec::product::kVersion) + "\n",
-                {},
-                0};
+        return {
+            {}, std::string(kProgramName) + " " + std::string(ec::product::kVersion) + "\n", {}, 0};
     if (const auto chosen = parser.get_subcommands(); !chosen.empty())
         options.command = chosen.front()->get_name();
     options.unattended = options.unattended || options.answers.has_value();

@@ -75,26 +75,25 @@ Run::Run(const CommandLine& options, AnswersFile answers, int& argc, char** argv
       m_frontEnd(m_window ? m_window->ports()
                           : FrontEndPorts{m_unattended, m_unattended, m_unattended, m_unattended}),
       m_alerts(m_frontEnd.alertSheets, m_adapters.events),
-      m_host{.places = m_adapters.places,
-             .clock = m_adapters.clock,
-             .systemLog = m_adapters.systemLog,
-             .streams = m_adapters.streams,
-             .tools = m_adapters.tools,
-             .administrator = m_adapters.administrator,
-             .applications = *m_adapters.applications,
-             .finderFiles = *m_adapters.finderFiles,
-             .bundles = m_adapters.bundles,
-             .texts = m_adapters.texts,
-             .mainQueue = m_adapters.mainQueue,
-             .backgroundQueue = m_adapters.backgroundQueue,
-             .interfaceFiles = m_frontEnd.interfaceFiles,
-             .alertSheets = m_alerts,
-             .modalLoop = m_frontEnd.modalLoop,
-             .appearance = m_frontEnd.appearance,
-             .logged =
-                 [this](std::string_view line) {
-                     m_adapters.events.emit("log", {{"line", line}});
-                 }},
+      m_host{
+          .places = m_adapters.places,
+          .clock = m_adapters.clock,
+          .systemLog = m_adapters.systemLog,
+          .streams = m_adapters.streams,
+          .tools = m_adapters.tools,
+          .administrator = m_adapters.administrator,
+          .applications = *m_adapters.applications,
+          .finderFiles = *m_adapters.finderFiles,
+          .bundles = m_adapters.bundles,
+          .texts = m_adapters.texts,
+          .mainQueue = m_adapters.mainQueue,
+          .backgroundQueue = m_adapters.backgroundQueue,
+          .interfaceFiles = m_frontEnd.interfaceFiles,
+          .alertSheets = m_alerts,
+          .modalLoop = m_frontEnd.modalLoop,
+          .appearance = m_frontEnd.appearance,
+          .logged =
+              [this](std::string_view line) { m_adapters.events.emit("log", {{"line", line}}); }},
       m_delegate({.host = m_host,
                   .finishBackgroundWork = [this] { finishBackgroundWork(); },
                   .willRun = [this](ScrivelInstaller& installer) { watch(installer); }}) {
@@ -150,7 +149,7 @@ ExitCode Run::outcome(std::string& reason) {
     switch (m_installer->ending()) {
     case Ending::quit:
         reason = std::string(product::kDisplayName) + " or Microsoft Word is running; quit both "
-                 "and start again";
+                                                      "and start again";
         return ExitCode::appsRunning;
     case Ending::kept:
         reason = "the installed copy was kept";
@@ -199,8 +198,7 @@ ExitCode Run::start() {
         code = outcome(reason);
     else
         reason = "the interface file ScrivelInstaller.ui can't be loaded from " +
-                 m_adapters.bundles.mainResourceFolder() +
-                 "; get a complete copy of the installer";
+                 m_adapters.bundles.mainResourceFolder() + "; get a complete copy of the installer";
     report(result, code, reason);
     return code;
 }

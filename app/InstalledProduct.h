@@ -1,6 +1,6 @@
 // Looks whether the product really stands at its destination, member by member, as the archive has
-// it. The flow itself examines no tool's status; the process's exit status is taken from here. Reads
-// only; changes nothing.
+// it. The flow itself examines no tool's status; the process's exit status is taken from here.
+// Reads only; changes nothing.
 #pragma once
 
 #include <optional>

@@ -7,7 +7,7 @@
 #include "cp/CException.h"
 #include "cp/CFileUtils.h"
 #include "cp/CPath.h"
-#include "cp/CStringConversionHelpers.h"
+#include "cp/StringHelpers.h"
 #include "engine/LogText.h"
 #include "engine/Product.h"
 #include "platform/ports/PlatformError.h"
@@ -168,9 +168,13 @@ bool ScrivelInstaller::checkpoint(std::string_view statusKey) {
     return goOn;
 }
 
-bool ScrivelInstaller::shouldInstallApp() { return checkpoint(kInstalling); }
+bool ScrivelInstaller::shouldInstallApp() {
+    return checkpoint(kInstalling);
+}
 
-bool ScrivelInstaller::shouldLaunchApp() { return checkpoint(kLaunching); }
+bool ScrivelInstaller::shouldLaunchApp() {
+    return checkpoint(kLaunching);
+}
 
 void ScrivelInstaller::finishedInstallingApp() {
     m_host.mainQueue.sync([this] {
@@ -252,9 +256,8 @@ void ScrivelInstaller::_show_unable_to_retrieve_alertSheet(AlertHandler handler)
 void ScrivelInstaller::_show_SV_or_Word_is_Running_alertSheet(AlertHandler handler) {
     m_host.alertSheets.beginSheet(
         {ports::AlertStyle::critical,
-         formatted(
-             localized("Scrivel and Microsoft Word cannot be open during %@ installation."),
-             {product::kDisplayName}),
+         formatted(localized("Scrivel and Microsoft Word cannot be open during %@ installation."),
+                   {product::kDisplayName}),
          localized("Please quit Scrivel and Microsoft Word and click the OK button to continue, "
                    "or click the Quit Installer button to quit this installer."),
          {localized("OK"), localized("Quit Installer")}},
@@ -266,11 +269,10 @@ void ScrivelInstaller::_show_overwrite_alertSheet(AlertHandler handler) {
         m_destFolder + "/" + std::string(product::kDisplayName) + ".app",
         "CFBundleShortVersionString");
     const std::string informative =
-        installed
-            ? formatted(localized("You are about to install %@ version %@, but version %@ is "
-                                  "already installed.  This cannot be undone."),
-                        {product::kDisplayName, m_bundledVersion, *installed})
-            : "This cannot be undone.";
+        installed ? formatted(localized("You are about to install %@ version %@, but version %@ is "
+                                        "already installed.  This cannot be undone."),
+                              {product::kDisplayName, m_bundledVersion, *installed})
+                  : "This cannot be undone.";
     m_host.alertSheets.beginSheet(
         {ports::AlertStyle::warning,
          formatted(localized("Would you like to overwrite the %@ at /Applications/%@?"),

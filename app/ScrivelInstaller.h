@@ -1,9 +1,10 @@
-// The installer window: the first window that the program shows, and the flow behind its one button.
-// A click checks that neither the product nor Word is open, asks before it overwrites, then unpacks
-// the archive, moves the product into place, gives its folder an icon and launches it.
+// The installer window: the first window that the program shows, and the flow behind its one
+// button. A click checks that neither the product nor Word is open, asks before it overwrites, then
+// unpacks the archive, moves the product into place, gives its folder an icon and launches it.
 //
-// myAppDelegate makes it and runs its window; it ends the modal session itself. It knows no toolkit:
-// it works control models, and a front end shows them. Its own ecController runs the commands.
+// myAppDelegate makes it and runs its window; it ends the modal session itself. It knows no
+// toolkit: it works control models, and a front end shows them. Its own ecController runs the
+// commands.
 //
 // Threads: everything on the main thread, but for the installation block, which runs on the
 // background queue and reaches the window only through synchronous hops to the main queue. The
@@ -28,11 +29,11 @@ class ScrivelInstaller {
 
     /// How the window's session came to its end.
     enum class Ending {
-        open,         ///< it has not ended
-        closed,       ///< the user closed the window
-        quit,         ///< "Quit Installer" at the question about running applications
-        kept,         ///< "No": the installed copy stays
-        finished,     ///< the installation block is done, cancelled or not
+        open,     ///< it has not ended
+        closed,   ///< the user closed the window
+        quit,     ///< "Quit Installer" at the question about running applications
+        kept,     ///< "No": the installed copy stays
+        finished, ///< the installation block is done, cancelled or not
     };
 
     /// `init`: loads the window "ScrivelInstaller" and prepares it.
@@ -68,8 +69,8 @@ class ScrivelInstaller {
     void installScrivel();
     /// `beginInstallingApp` turns the window into its busy form.
     void beginInstallingApp();
-    /// `shouldInstallApp`, `shouldLaunchApp`: the block's two checkpoints. Each shows its status text
-    /// unless the user cancelled, and answers whether to go on.
+    /// `shouldInstallApp`, `shouldLaunchApp`: the block's two checkpoints. Each shows its status
+    /// text unless the user cancelled, and answers whether to go on.
     bool shouldInstallApp();
     bool shouldLaunchApp();
     /// `finishedInstallingApp` ends the session with 1 when the user cancelled, else 0.

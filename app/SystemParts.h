@@ -1,5 +1,5 @@
-// What the composition root needs and each system provides in its own way. One source file a system:
-// SystemParts.linux.cpp, SystemParts.macos.cpp.
+// What the composition root needs and each system provides in its own way. One source file a
+// system: SystemParts.linux.cpp, SystemParts.macos.cpp.
 #pragma once
 
 #include <memory>
@@ -17,7 +17,7 @@ namespace app {
 /// The running program's file, absolute, links resolved.
 std::string ownExecutable();
 
-/// The user's languages, the most wanted first, as "de-AT" or "de".
+/// The user's languages as locale names ("de_AT.UTF-8"), the dearest first; empty: English.
 std::vector<std::string> preferredLanguages();
 
 /// Can a window be shown?
@@ -27,7 +27,9 @@ std::unique_ptr<ports::Applications> makeApplications(const ports::SystemPlaces&
                                                       ports::Bundles& bundles);
 std::unique_ptr<ports::FinderFiles> makeFinderFiles();
 
-/// `askPass`: the program that asks for the password in a window; empty: the terminal does.
-std::unique_ptr<ports::Administrator> makeAdministrator(const std::string& askPass);
+/// `ownToolsFolder` holds the program's own tools, and among them `askPass`, which asks for the
+/// password in a window; empty: the terminal asks.
+std::unique_ptr<ports::Administrator> makeAdministrator(const std::string& ownToolsFolder,
+                                                        const std::string& askPass);
 
 } // namespace app

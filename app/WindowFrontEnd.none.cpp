@@ -2,12 +2,16 @@
 
 namespace app {
 
-bool hasWindowFrontEnd() { return false; }
+bool hasWindowFrontEnd() {
+    return false;
+}
 
 std::unique_ptr<WindowFrontEnd> makeWindowFrontEnd(const WindowFrontEnd::Needs&) {
     return nullptr;
 }
 
-int runPasswordDialog(int&, char**, const std::string&, const ports::LocalizedTexts&) { return 1; }
+int runPasswordDialog(int&, char**, const std::string&, const ports::LocalizedTexts&) {
+    return 1;
+}
 
 } // namespace app

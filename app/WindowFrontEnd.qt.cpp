@@ -28,8 +28,7 @@ class GuiWindow final : public WindowFrontEnd {
                  }}) {}
 
     FrontEndPorts ports() override {
-        return {m_gui.interfaceFiles(), m_gui.alertSheets(), m_gui.modalLoop(),
-                m_gui.appearance()};
+        return {m_gui.interfaceFiles(), m_gui.alertSheets(), m_gui.modalLoop(), m_gui.appearance()};
     }
 
   private:
@@ -38,7 +37,9 @@ class GuiWindow final : public WindowFrontEnd {
 
 } // namespace
 
-bool hasWindowFrontEnd() { return true; }
+bool hasWindowFrontEnd() {
+    return true;
+}
 
 std::unique_ptr<WindowFrontEnd> makeWindowFrontEnd(const WindowFrontEnd::Needs& needs) {
     return std::make_unique<GuiWindow>(needs);

@@ -1,5 +1,5 @@
-// The process entry: reads the command line and hands over. Started as "scrivel-askpass" the program
-// is the window in which sudo asks for the password.
+// The process entry: reads the command line and hands over. Started as "scrivel-askpass" the
+// program is the window in which sudo asks for the password.
 #include <cstdlib>
 #include <iostream>
 #include <string_view>

@@ -4,7 +4,7 @@
 #include <array>
 #include <cstdio>
 
-#include "cp/CStringConversionHelpers.h"
+#include "cp/StringHelpers.h"
 
 namespace ec {
 

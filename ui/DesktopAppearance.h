@@ -13,7 +13,7 @@ class DesktopAppearance final : public ports::Appearance {
 
     /// The toolkit whose window manners this front end has: it follows a dark desktop, and its
     /// buttons suit a title in a colour of its own. In the platform's count that is macOS 11.
-    double toolkitVersion() const override { return 2022; }
+    double toolkitVersion() const override { return kOwnToolkitVersion; }
 
   private:
     bool m_dark;

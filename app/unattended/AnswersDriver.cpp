@@ -61,7 +61,8 @@ struct Described {
 AnswersDriver::AnswersDriver(Needs needs) : m_needs(std::move(needs)) {
     const auto waits = [](const Step& step) { return std::holds_alternative<WaitStep>(step); };
     if (m_needs.answers.steps && std::ranges::any_of(*m_needs.answers.steps, waits))
-        m_needs.events.addListener([this](const Event& event) { m_sinceLastStep.push_back(event); });
+        m_needs.events.addListener(
+            [this](const Event& event) { m_sinceLastStep.push_back(event); });
 }
 
 void AnswersDriver::fail(std::string why) {
@@ -75,9 +76,8 @@ std::size_t AnswersDriver::answer(const ports::Alert& alert) {
         const std::string& title = m_needs.answers.answers[m_nextAnswer++];
         if (const auto index = indexOf(alert, title))
             return *index;
-        fail("answers[" + std::to_string(m_nextAnswer - 1) + "]: the question \"" +
-             alert.message + "\" has no button \"" + title + "\"; it has " +
-             listed(alert.buttons));
+        fail("answers[" + std::to_string(m_nextAnswer - 1) + "]: the question \"" + alert.message +
+             "\" has no button \"" + title + "\"; it has " + listed(alert.buttons));
     }
     if (quit) {
         const auto giveUp = Clock::now() + m_needs.waitForApps;

@@ -1,5 +1,5 @@
-// An answers file: what an unattended run is to answer, choose and press. Read once, before anything
-// is started. The format is in docs/command-line.md. Holds values only.
+// An answers file: what an unattended run is to answer, choose and press. Read once, before
+// anything is started. The format is in docs/command-line.md. Holds values only.
 #pragma once
 
 #include <optional>
@@ -36,8 +36,7 @@ struct WaitStep {
 struct SnapshotStep {
     std::string name;
 };
-using Step =
-    std::variant<PressStep, ComponentStep, RowStep, CallStep, WaitStep, SnapshotStep>;
+using Step = std::variant<PressStep, ComponentStep, RowStep, CallStep, WaitStep, SnapshotStep>;
 
 /// The file can't be read or says something that it can't say. The text names the file, the place
 /// and the remedy.

@@ -1,6 +1,6 @@
-// The program's events, one JSON object each: what happens, told to scripts. Made by everything that
-// watches the core (see Observers.h), read by standard output (--events), by the progress printer
-// and by the answers driver, which waits for them.
+// The program's events, one JSON object each: what happens, told to scripts. Made by everything
+// that watches the core (see Observers.h), read by standard output (--events), by the progress
+// printer and by the answers driver, which waits for them.
 //
 // `emit` may be called on any thread; listeners are told on the main thread, in order.
 #pragma once

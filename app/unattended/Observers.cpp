@@ -23,9 +23,8 @@ Event described(const controls::TextField& field) {
 }
 
 Event described(const controls::Progress& progress) {
-    return {{"kind", "progress"},
-            {"running", progress.isRunning()},
-            {"hidden", progress.isHidden()}};
+    return {
+        {"kind", "progress"}, {"running", progress.isRunning()}, {"hidden", progress.isHidden()}};
 }
 
 } // namespace

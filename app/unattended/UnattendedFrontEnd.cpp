@@ -3,7 +3,7 @@
 #include <filesystem>
 #include <utility>
 
-#include "InterfaceDefaults.h"
+#include "app/generated/InterfaceDefaults.h"
 
 namespace app {
 
@@ -12,16 +12,10 @@ namespace {
 /// How long the loop sleeps before it looks whether the driver's patience has run out.
 constexpr std::chrono::milliseconds kLongestSleep{50};
 
-/// The version of the toolkit that the window front end stands for.
-constexpr double kToolkitVersion = 2299;
-
 } // namespace
 
-double UnattendedFrontEnd::toolkitVersion() const { return kToolkitVersion; }
-
 bool UnattendedFrontEnd::load(std::string_view name, controls::Interface& outlets) {
-    const auto file =
-        std::filesystem::path(m_needs.resourceFolder) / (std::string(name) + ".ui");
+    const auto file = std::filesystem::path(m_needs.resourceFolder) / (std::string(name) + ".ui");
     std::error_code ignored;
     if (!std::filesystem::is_regular_file(file, ignored))
         return false;

@@ -1,6 +1,6 @@
-// The front end without a window: it shows nothing, runs the same modal loops and sheets as a window
-// does, and lets the answers driver act wherever a person would. No display is needed.
-// Main thread only.
+// The front end without a window: it shows nothing, runs the same modal loops and sheets as a
+// window does, and lets the answers driver act wherever a person would. No display is needed. Main
+// thread only.
 #pragma once
 
 #include <chrono>
@@ -37,7 +37,7 @@ class UnattendedFrontEnd final : public ports::InterfaceFiles,
     int runModalForWindow(controls::Window& window) override;
     void stopModalWithCode(int code) override;
     bool isDark() const override { return false; }
-    double toolkitVersion() const override;
+    double toolkitVersion() const override { return kOwnToolkitVersion; }
 
   private:
     struct Sheet {

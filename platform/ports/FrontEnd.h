@@ -69,6 +69,10 @@ class Appearance {
   public:
     virtual ~Appearance() = default;
     virtual bool isDark() const = 0;
+
+    /// What a front end answers that runs on no toolkit of the platform: it has a dark appearance.
+    static constexpr double kOwnToolkitVersion = 2022;
+
     /// The version number of the platform's window toolkit, as it counts them (1671 is
     /// macOS 10.14).
     virtual double toolkitVersion() const = 0;

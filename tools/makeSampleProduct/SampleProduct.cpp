@@ -38,7 +38,7 @@ constexpr std::string_view kInfo = R"(<?xml version="1.0" encoding="UTF-8"?>
 
 /// Journals and their abbreviations, combined into the names of a few thousand content files.
 constexpr std::array<std::string_view, 12> kFields{
-    "Anatomy",   "Botany",  "Chemistry", "Dermatology", "Économie",  "Füchse und Vögel",
+    "Anatomy",   "Botany",  "Chemistry", "Dermatology", "Économie", "Füchse und Vögel",
     "Geography", "History", "数学",      "Médecine",    "Ελληνικά", "Zoölogy"};
 constexpr int kFilesOfEachField = 220;
 
@@ -65,10 +65,10 @@ std::string citationStyle(std::string_view field, int number) {
     for (const char c : text)
         state = (state ^ static_cast<unsigned char>(c)) * 16777619u;
     static constexpr std::array<std::string_view, 8> kRules{
-        "author, title. journal volume",  "author (year) title",
-        "title / author; year",           "author: title, in: journal",
-        "journal volume:pages (year)",    "author. year. title. publisher",
-        "abbreviate journal names",       "page range elided"};
+        "author, title. journal volume", "author (year) title",
+        "title / author; year",          "author: title, in: journal",
+        "journal volume:pages (year)",   "author. year. title. publisher",
+        "abbreviate journal names",      "page range elided"};
     for (int line = 0; line < 12 + number % 40; ++line) {
         state = state * 1664525u + 1013904223u;
         text += "rule " + std::to_string(state % 9973) + ": " +

@@ -1,0 +1,49 @@
+#include "app/SystemParts.h"
+
+#include <algorithm>
+#include <array>
+#include <cstdlib>
+
+#include "platform/linux/OwnExecutable.h"
+#include "platform/linux/PreferredLanguages.h"
+#include "platform/linux/ProcApplications.h"
+#include "platform/posix/FinderFileStore.h"
+#include "platform/posix/SudoAdministrator.h"
+
+namespace app {
+
+std::string ownExecutable() {
+    return linuxhost::ownExecutable();
+}
+
+std::vector<std::string> preferredLanguages() {
+    return linuxhost::preferredLanguages();
+}
+
+bool hasDisplay() {
+    // The last one chooses a platform that may need no display at all.
+    constexpr std::array kVariables{"DISPLAY", "WAYLAND_DISPLAY", "QT_QPA_PLATFORM"};
+    return std::ranges::any_of(kVariables, [](const char* name) {
+        const char* value = std::getenv(name);
+        return value && *value;
+    });
+}
+
+std::unique_ptr<ports::Applications> makeApplications(const ports::SystemPlaces& places,
+                                                      ports::Bundles& bundles) {
+    return std::make_unique<linuxhost::ProcApplications>(linuxhost::ProcApplications::Needs{
+        .bundles = bundles, .root = places.root, .home = places.home});
+}
+
+std::unique_ptr<ports::FinderFiles> makeFinderFiles() {
+    return std::make_unique<posix::FinderFileStore>();
+}
+
+std::unique_ptr<ports::Administrator> makeAdministrator(const std::string& ownToolsFolder,
+                                                        const std::string& askPass) {
+    return std::make_unique<posix::SudoAdministrator>(posix::SudoAdministrator::Needs{
+        .ownToolsFolder = ownToolsFolder,
+        .askpass = askPass.empty() ? "" : ownToolsFolder + "/" + askPass});
+}
+
+} // namespace app
