@@ -19,7 +19,7 @@ namespace formats {
 using Bytes = std::vector<std::byte>;
 
 struct ExtendedAttribute {
-    std::string name;
+    std::string name; ///< 1 to 254 bytes without a zero byte, as the format holds them
     Bytes value;
     bool operator==(const ExtendedAttribute&) const = default;
 };
@@ -34,11 +34,16 @@ struct AppleDouble {
     bool operator==(const AppleDouble&) const = default;
 };
 
-/// None when `bytes` is not a well-formed AppleDouble file: wrong magic number, an entry or an
-/// attribute that reaches past the end.
+/// None when `bytes` is not a well-formed AppleDouble file: wrong magic number or version, an entry
+/// or an attribute that reaches past the end, Finder information of less than 32 bytes, one of the
+/// two entries twice, attributes that are together longer than the file. Bytes after the last
+/// entry and entries of other kinds are passed over. A resource fork that the desktop wrote to say
+/// "none" (286 bytes, no resources) is given as it stands.
 std::optional<AppleDouble> readAppleDouble(std::span<const std::byte> bytes);
 
-/// The AppleDouble file that says so; `readAppleDouble` gives the same value back.
+/// The AppleDouble file that says so; `readAppleDouble` gives the same value back. An attribute
+/// with a name that the format can't hold is left out, and so are those after the 65535th. Throws
+/// std::length_error when the file would be longer than 4 GiB.
 Bytes writeAppleDouble(const AppleDouble& value);
 
 } // namespace formats

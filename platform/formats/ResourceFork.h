@@ -32,14 +32,20 @@ struct Resource {
     bool operator==(const Resource&) const = default;
 };
 
-/// All resources in the order of the map; none when `fork` is not a well-formed resource fork.
+/// All resources in the order of the map; none when `fork` is not a well-formed resource fork: a
+/// part or a resource that reaches past the end of what holds it, resources that share their bytes.
+/// No bytes at all are not a fork; a fork without resources is one.
 std::optional<std::vector<Resource>> readResourceFork(std::span<const std::byte> fork);
 
-/// One resource's data, without copying the others; none when it is not there.
+/// One resource's data, without copying the others; none when it is not there, or when the map is
+/// not well formed up to it.
 std::optional<Bytes> findResource(std::span<const std::byte> fork, std::uint32_t type,
                                   std::int16_t number);
 
-/// The fork that holds these resources, in their order by type.
+/// The fork that holds these resources: types in the order of their first resource, resources of a
+/// type in the given order. Throws std::length_error when the format can't hold them: a name of
+/// more than 255 bytes, a map of more than 64 KiB (some five thousand resources), a resource that
+/// would begin beyond 16 MiB.
 Bytes writeResourceFork(const std::vector<Resource>& resources);
 
 } // namespace formats

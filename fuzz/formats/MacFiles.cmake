@@ -1,0 +1,2 @@
+scrivel_fuzz(fuzz_appledouble FuzzAppleDouble.cpp LINKS scrivel_macfiles)
+scrivel_fuzz(fuzz_resource_fork FuzzResourceFork.cpp LINKS scrivel_macfiles)
