@@ -252,8 +252,8 @@ void ZipDirectoryReader::readMember() {
     m_directory.m_members.push_back(member);
 }
 
-void ZipDirectoryReader::readExtra(Span extra, Span rawName, ZipMember& member,
-                                   std::uint32_t& disk, std::string& name) {
+void ZipDirectoryReader::readExtra(Span extra, Span rawName, ZipMember& member, std::uint32_t& disk,
+                                   std::string& name) {
     const bool sizeIsBig = member.size == kFull32;
     const bool packedSizeIsBig = member.packedSize == kFull32;
     const bool offsetIsBig = member.headerOffset == kFull32;
@@ -306,8 +306,7 @@ void ZipDirectoryReader::readPath(Span rawName, std::uint16_t flags, std::uint8_
         appendFromCodePage437(raw, name);
 }
 
-void ZipDirectoryReader::setKind(ZipMember& member, std::uint32_t attributes,
-                                 std::uint8_t system) {
+void ZipDirectoryReader::setKind(ZipMember& member, std::uint32_t attributes, std::uint8_t system) {
     constexpr std::uint32_t kDosFolder = 0x10;
     const auto mode = static_cast<std::uint16_t>(attributes >> 16);
     const bool onUnix = system == kMadeOnUnix || system == kMadeOnDarwin;

@@ -139,8 +139,8 @@ void ZipLayout::refuseCollisions() {
     std::ranges::sort(m_places, {}, &Place::sum);
     std::vector<std::pair<std::string, const Place*>> same;
     for (auto first = m_places.begin(); first != m_places.end();) {
-        const auto last = std::find_if(
-            first, m_places.end(), [&](const Place& place) { return place.sum != first->sum; });
+        const auto last = std::find_if(first, m_places.end(),
+                                       [&](const Place& place) { return place.sum != first->sum; });
         if (last - first > 1) {
             same.clear();
             for (auto place = first; place != last; ++place)
@@ -149,8 +149,7 @@ void ZipLayout::refuseCollisions() {
             for (std::size_t i = 1; i < same.size(); ++i)
                 if (same[i].first == same[i - 1].first)
                     throw ZipRefusal{pathOf(*same[i - 1].second) + " and " +
-                                     pathOf(*same[i].second) +
-                                     " would be the same file or folder"};
+                                     pathOf(*same[i].second) + " would be the same file or folder"};
         }
         first = last;
     }

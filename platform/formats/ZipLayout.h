@@ -28,8 +28,7 @@ class ZipLayout {
 
     /// Refuses members whose headers and data overlap. `stretches` are the first and the one
     /// after the last byte of each.
-    static void
-    refuseOverlaps(std::vector<std::pair<std::uint64_t, std::uint64_t>>& stretches);
+    static void refuseOverlaps(std::vector<std::pair<std::uint64_t, std::uint64_t>>& stretches);
 
   private:
     /// A place in the tree under the sum of its folded path. Folders and other members share the

@@ -114,11 +114,10 @@ void foldName(std::string_view name, std::string& folded) {
         return;
     }
     utf8proc_uint8_t* result = nullptr;
-    const auto length =
-        utf8proc_map(reinterpret_cast<const utf8proc_uint8_t*>(name.data()),
-                     static_cast<utf8proc_ssize_t>(name.size()), &result,
-                     static_cast<utf8proc_option_t>(UTF8PROC_STABLE | UTF8PROC_COMPOSE |
-                                                    UTF8PROC_CASEFOLD));
+    const auto length = utf8proc_map(
+        reinterpret_cast<const utf8proc_uint8_t*>(name.data()),
+        static_cast<utf8proc_ssize_t>(name.size()), &result,
+        static_cast<utf8proc_option_t>(UTF8PROC_STABLE | UTF8PROC_COMPOSE | UTF8PROC_CASEFOLD));
     const std::unique_ptr<utf8proc_uint8_t, decltype(&std::free)> owner(result, &std::free);
     if (length < 0)
         folded.assign(name); // only without memory: the name was checked to be UTF-8

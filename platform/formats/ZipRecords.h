@@ -55,8 +55,14 @@ T field(const std::byte* at) {
     return value;
 }
 
-inline std::uint16_t field16(const std::byte* at) { return field<std::uint16_t>(at); }
-inline std::uint32_t field32(const std::byte* at) { return field<std::uint32_t>(at); }
-inline std::uint64_t field64(const std::byte* at) { return field<std::uint64_t>(at); }
+inline std::uint16_t field16(const std::byte* at) {
+    return field<std::uint16_t>(at);
+}
+inline std::uint32_t field32(const std::byte* at) {
+    return field<std::uint32_t>(at);
+}
+inline std::uint64_t field64(const std::byte* at) {
+    return field<std::uint64_t>(at);
+}
 
 } // namespace formats::zip

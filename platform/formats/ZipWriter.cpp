@@ -69,9 +69,9 @@ DosTime dosTime(std::int64_t seconds) {
     const std::int64_t year = era * 400 + yearOfEra + (month <= 2);
     const std::int64_t day = dayOfYear - (153 * march + 2) / 5 + 1;
     const std::int64_t second = seconds % 86400;
-    return {static_cast<std::uint16_t>(second / 3600 << 11 | second / 60 % 60 << 5 |
-                                       second % 60 / 2),
-            static_cast<std::uint16_t>((year - 1980) << 9 | month << 5 | day)};
+    return {
+        static_cast<std::uint16_t>(second / 3600 << 11 | second / 60 % 60 << 5 | second % 60 / 2),
+        static_cast<std::uint16_t>((year - 1980) << 9 | month << 5 | day)};
 }
 
 std::uint16_t kindBits(ZipKind kind) {
@@ -111,8 +111,7 @@ Record zip64Extra(bool always, std::initializer_list<std::uint64_t*> values) {
 
 } // namespace
 
-ZipWriter::ZipWriter(Sink sink, Options options)
-    : m_sink(std::move(sink)), m_options(options) {
+ZipWriter::ZipWriter(Sink sink, Options options) : m_sink(std::move(sink)), m_options(options) {
     if (m_options.level > 0) {
         m_compressor = libdeflate_alloc_compressor(m_options.level);
         if (m_compressor == nullptr)
@@ -120,7 +119,9 @@ ZipWriter::ZipWriter(Sink sink, Options options)
     }
 }
 
-ZipWriter::~ZipWriter() { libdeflate_free_compressor(m_compressor); }
+ZipWriter::~ZipWriter() {
+    libdeflate_free_compressor(m_compressor);
+}
 
 void ZipWriter::write(std::span<const std::byte> bytes) {
     m_sink(bytes);
@@ -167,7 +168,9 @@ void ZipWriter::add(const ZipEntry& entry, std::span<const std::byte> contents) 
     Record central;
     central.add(kCentralMark).add(static_cast<std::uint16_t>(kMadeOnUnix << 8 | kVersion64));
     addCommon(central, centralZip64);
-    central.add(std::uint16_t{0}).add(std::uint16_t{0}).add(std::uint16_t{0}); // comment, disk, text
+    central.add(std::uint16_t{0})
+        .add(std::uint16_t{0})
+        .add(std::uint16_t{0}); // comment, disk, text
     const std::uint32_t dosFolder = entry.kind == ZipKind::Folder ? 0x10 : 0;
     central.add(static_cast<std::uint32_t>(kindBits(entry.kind) | (entry.mode & 07777u)) << 16 |
                 dosFolder);

@@ -12,8 +12,7 @@ void Complaints::about(std::string_view path, std::string_view reason) {
     m_any = true;
     std::string line = m_program;
     line.append(": ").append(path).append(": ").append(reason);
-    std::ranges::replace_if(
-        line, [](unsigned char c) { return c < 0x20 || c == 0x7F; }, '?');
+    std::ranges::replace_if(line, [](unsigned char c) { return c < 0x20 || c == 0x7F; }, '?');
     line += '\n';
     for (std::string_view rest = line; !rest.empty();) {
         const ssize_t written = ::write(STDERR_FILENO, rest.data(), rest.size());

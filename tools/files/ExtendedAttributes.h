@@ -24,8 +24,8 @@ int setAttribute(int file, const std::string& name, std::span<const std::byte> v
 
 void removeAttribute(int file, const std::string& name);
 
-/// The system's name for the attribute that macOS calls `name`: "user.NAME" on Linux, where a file's
-/// owner may set no other.
+/// The system's name for the attribute that macOS calls `name`: "user.NAME" on Linux, where a
+/// file's owner may set no other.
 std::string systemAttributeName(std::string_view name);
 
 /// The other way round; none for an attribute that macOS has no equal of.

@@ -54,8 +54,8 @@ int FolderDescriptors::of(const Folder& folder) {
     }
     Descriptor opened;
     for (auto next = m_missing.rbegin(); next != m_missing.rend(); ++next) {
-        opened = Descriptor(
-            checked(::openat(number, (*next)->name.c_str(), kOpenFolder | O_NOFOLLOW)));
+        opened =
+            Descriptor(checked(::openat(number, (*next)->name.c_str(), kOpenFolder | O_NOFOLLOW)));
         number = opened.number();
     }
     if (!opened.isOpen())
@@ -71,7 +71,7 @@ int FolderDescriptors::of(const Folder& folder) {
 
 std::string nearestExisting(const std::string& path) {
     std::string at = withoutSlashes(path);
-    struct stat status {};
+    struct stat status{};
     while (::lstat(at.c_str(), &status) != 0 && at != "/" && at != ".")
         at = withoutSlashes(parentOf(at));
     return at;

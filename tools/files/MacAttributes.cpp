@@ -21,7 +21,9 @@ bool isEmpty(const formats::AppleDouble& attributes) {
            attributes.attributes.empty();
 }
 
-std::string sidecarName(std::string_view name) { return "._" + std::string(name); }
+std::string sidecarName(std::string_view name) {
+    return "._" + std::string(name);
+}
 
 formats::AppleDouble applyMacAttributes(int file, formats::AppleDouble attributes) {
     std::erase_if(attributes.attributes,
@@ -35,8 +37,11 @@ formats::AppleDouble applyMacAttributes(int file, formats::AppleDouble attribute
                  apply(kFinderInformation, attributes.finderInformation);
     for (const auto& [name, value] : attributes.attributes)
         taken = taken && apply(name.c_str(), value);
-    if (taken)
-        return {.resourceFork = std::move(attributes.resourceFork)};
+    if (taken) {
+        formats::AppleDouble rest;
+        rest.resourceFork = std::move(attributes.resourceFork);
+        return rest;
+    }
     for (const std::string& name : set)
         removeAttribute(file, name);
     return attributes;

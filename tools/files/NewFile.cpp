@@ -19,8 +19,7 @@ NewFile::NewFile(int folder, const char* name, mode_t mode) : m_folder(folder), 
     m_file = Descriptor(::openat(folder, name, kCreate, mode));
     static std::atomic<std::uint32_t> number = 0;
     while (!m_file.isOpen() && errno == EEXIST) {
-        m_temporaryName =
-            ".ditto-" + std::to_string(::getpid()) + "-" + std::to_string(number++);
+        m_temporaryName = ".ditto-" + std::to_string(::getpid()) + "-" + std::to_string(number++);
         m_file = Descriptor(::openat(folder, m_temporaryName.c_str(), kCreate, mode));
     }
     checked(m_file.number());
@@ -42,7 +41,7 @@ void NewFile::write(std::span<const std::byte> bytes) {
 
 void NewFile::setMode(mode_t mode) {
     // Asking costs a fraction of setting, and mostly there is nothing to set.
-    struct stat status {};
+    struct stat status{};
     checked(::fstat(m_file.number(), &status));
     if ((status.st_mode & 07777) != mode)
         checked(::fchmod(m_file.number(), mode));

@@ -49,7 +49,9 @@ int setAttribute(int file, const std::string& name, std::span<const std::byte> v
     return ::fsetxattr(file, name.c_str(), value.data(), value.size(), 0) == 0 ? 0 : errno;
 }
 
-void removeAttribute(int file, const std::string& name) { ::fremovexattr(file, name.c_str()); }
+void removeAttribute(int file, const std::string& name) {
+    ::fremovexattr(file, name.c_str());
+}
 
 std::string systemAttributeName(std::string_view name) {
     return std::string(kUser) + std::string(name);
@@ -65,6 +67,8 @@ bool isCopiedAttribute(std::string_view systemName) {
     return systemName.starts_with(kUser) || isAccessList(systemName);
 }
 
-bool isAccessList(std::string_view systemName) { return systemName.starts_with(kAccessList); }
+bool isAccessList(std::string_view systemName) {
+    return systemName.starts_with(kAccessList);
+}
 
 } // namespace tools

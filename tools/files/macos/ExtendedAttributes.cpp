@@ -35,16 +35,24 @@ int setAttribute(int file, const std::string& name, std::span<const std::byte> v
     return ::fsetxattr(file, name.c_str(), value.data(), value.size(), 0, 0) == 0 ? 0 : errno;
 }
 
-void removeAttribute(int file, const std::string& name) { ::fremovexattr(file, name.c_str(), 0); }
+void removeAttribute(int file, const std::string& name) {
+    ::fremovexattr(file, name.c_str(), 0);
+}
 
-std::string systemAttributeName(std::string_view name) { return std::string(name); }
+std::string systemAttributeName(std::string_view name) {
+    return std::string(name);
+}
 
 std::optional<std::string> macAttributeName(std::string_view systemName) {
     return std::string(systemName);
 }
 
-bool isCopiedAttribute(std::string_view) { return true; }
+bool isCopiedAttribute(std::string_view) {
+    return true;
+}
 
-bool isAccessList(std::string_view) { return false; }
+bool isAccessList(std::string_view) {
+    return false;
+}
 
 } // namespace tools
