@@ -1,0 +1,58 @@
+#include "tools/files/ExtendedAttributes.h"
+
+#include <cerrno>
+
+#include <sys/xattr.h>
+
+namespace tools {
+
+std::vector<std::string> attributeNames(int file) {
+    const ssize_t room = ::flistxattr(file, nullptr, 0, 0);
+    if (room <= 0)
+        return {};
+    std::string names(static_cast<std::size_t>(room), '\0');
+    const ssize_t length = ::flistxattr(file, names.data(), names.size(), 0);
+    std::vector<std::string> all;
+    names.resize(length < 0 ? 0 : static_cast<std::size_t>(length));
+    for (std::size_t at = 0; at < names.size(); at = names.find('\0', at) + 1)
+        all.emplace_back(names.c_str() + at);
+    return all;
+}
+
+std::optional<formats::Bytes> attributeValue(int file, const std::string& name) {
+    const ssize_t room = ::fgetxattr(file, name.c_str(), nullptr, 0, 0, 0);
+    if (room < 0)
+        return std::nullopt;
+    formats::Bytes value(static_cast<std::size_t>(room));
+    const ssize_t length = ::fgetxattr(file, name.c_str(), value.data(), value.size(), 0, 0);
+    if (length < 0)
+        return std::nullopt;
+    value.resize(static_cast<std::size_t>(length));
+    return value;
+}
+
+int setAttribute(int file, const std::string& name, std::span<const std::byte> value) {
+    return ::fsetxattr(file, name.c_str(), value.data(), value.size(), 0, 0) == 0 ? 0 : errno;
+}
+
+void removeAttribute(int file, const std::string& name) {
+    ::fremovexattr(file, name.c_str(), 0);
+}
+
+std::string systemAttributeName(std::string_view name) {
+    return std::string(name);
+}
+
+std::optional<std::string> macAttributeName(std::string_view systemName) {
+    return std::string(systemName);
+}
+
+bool isCopiedAttribute(std::string_view) {
+    return true;
+}
+
+bool isAccessList(std::string_view) {
+    return false;
+}
+
+} // namespace tools
