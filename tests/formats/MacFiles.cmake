@@ -7,3 +7,10 @@ scrivel_test(macfiles_test
     VersionResourceTest.cpp
     LINKS scrivel_macfiles
 )
+if(TARGET scrivel_finderfiles)
+    scrivel_test(finderfiles_test
+        FinderFileStoreTest.cpp
+        StagedFileTest.cpp
+        LINKS scrivel_finderfiles
+    )
+endif()

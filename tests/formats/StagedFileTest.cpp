@@ -1,0 +1,103 @@
+#include "platform/posix/StagedFile.h"
+
+#include <cerrno>
+
+#include <gtest/gtest.h>
+#include <sys/stat.h>
+
+#include "tests/formats/BytesInTests.h"
+#include "tests/formats/TemporaryFolder.h"
+
+namespace posix {
+namespace {
+
+using formats::testing::bytesOf;
+using formats::testing::readFile;
+using formats::testing::TemporaryFolder;
+using formats::testing::writeFile;
+using Names = std::vector<std::string>;
+
+TEST(StagedFile, WhatIsWrittenShowsOnlyWhenItIsCommitted) {
+    const TemporaryFolder folder;
+    StagedFile file(folder / "a");
+    ASSERT_EQ(file.write(bytesOf("new")), 0);
+    EXPECT_FALSE(std::filesystem::exists(folder / "a"));
+    ASSERT_EQ(file.commit(), 0);
+    EXPECT_EQ(readFile(folder / "a"), bytesOf("new"));
+    file.keep();
+    EXPECT_EQ(folder.names(), Names{"a"});
+}
+
+TEST(StagedFile, WhatIsNotCommittedLeavesNothing) {
+    const TemporaryFolder folder;
+    {
+        StagedFile file(folder / "a");
+        ASSERT_EQ(file.write(bytesOf("new")), 0);
+        EXPECT_EQ(folder.names().size(), 1u);
+    }
+    EXPECT_EQ(folder.names(), Names{});
+}
+
+TEST(StagedFile, WhatIsNotKeptIsTakenBack) {
+    const TemporaryFolder folder;
+    writeFile(folder / "old", bytesOf("old"));
+    for (const char* name : {"old", "fresh"}) {
+        StagedFile file(folder / name);
+        ASSERT_EQ(file.write(bytesOf("new")), 0);
+        ASSERT_EQ(file.commit(), 0);
+        EXPECT_EQ(readFile(folder / name), bytesOf("new"));
+    }
+    EXPECT_EQ(readFile(folder / "old"), bytesOf("old"));
+    EXPECT_EQ(folder.names(), Names{"old"});
+}
+
+TEST(StagedFile, AReplacedFileHandsOnItsMode) {
+    const TemporaryFolder folder;
+    writeFile(folder / "a", bytesOf("old"));
+    ASSERT_EQ(::chmod((folder / "a").c_str(), 0640), 0);
+    StagedFile file(folder / "a");
+    ASSERT_EQ(file.write(bytesOf("new")), 0);
+    ASSERT_EQ(file.commit(), 0);
+    file.keep();
+    struct stat facts{};
+    ASSERT_EQ(::stat((folder / "a").c_str(), &facts), 0);
+    EXPECT_EQ(facts.st_mode & 07777u, 0640u);
+    EXPECT_EQ(folder.names(), Names{"a"});
+}
+
+TEST(StagedFile, ASymbolicLinkIsReplacedAndNotFollowed) {
+    const TemporaryFolder folder;
+    writeFile(folder / "target", bytesOf("target"));
+    std::filesystem::create_symlink("target", folder / "a");
+    for (const bool keep : {false, true}) {
+        StagedFile file(folder / "a");
+        ASSERT_EQ(file.write(bytesOf("new")), 0);
+        ASSERT_EQ(file.commit(), 0);
+        EXPECT_FALSE(std::filesystem::is_symlink(folder / "a"));
+        if (keep)
+            file.keep();
+    }
+    EXPECT_EQ(readFile(folder / "a"), bytesOf("new"));
+    EXPECT_EQ(readFile(folder / "target"), bytesOf("target"));
+    EXPECT_EQ(folder.names(), (Names{"a", "target"}));
+}
+
+TEST(StagedFile, AFolderInTheWayStays) {
+    const TemporaryFolder folder;
+    std::filesystem::create_directory(folder / "a");
+    {
+        StagedFile file(folder / "a");
+        ASSERT_EQ(file.write(bytesOf("new")), 0);
+        EXPECT_EQ(file.commit(), EISDIR);
+    }
+    EXPECT_EQ(folder.names(), Names{"a"});
+}
+
+TEST(StagedFile, AMissingFolderIsTold) {
+    const TemporaryFolder folder;
+    StagedFile file(folder / "none/a");
+    EXPECT_EQ(file.write(bytesOf("new")), ENOENT);
+}
+
+} // namespace
+} // namespace posix
