@@ -1,0 +1,81 @@
+#include "wizard/ecController.h"
+
+#include <filesystem>
+
+#include <gtest/gtest.h>
+
+#include "tests/fakes/FakeHost.h"
+
+namespace {
+
+namespace fs = std::filesystem;
+
+struct WizardStartUpTest : testing::Test {
+    fs::path folder = fs::temp_directory_path() / "scrivel-startup-test";
+    fakes::FakeHost host;
+    void SetUp() override {
+        fs::create_directories(folder / "resources");
+        host.bundles.resourceFolder = (folder / "resources").string();
+        host.bundles.executable = "/Volumes/Scrivel 21/Installer.app/Contents/MacOS/Installer";
+    }
+    void TearDown() override { fs::remove_all(folder); }
+};
+
+TEST_F(WizardStartUpTest, ThePlainStartFillsTheFieldsFromTheBundle) {
+    const ec::ecController controller(host.host());
+    EXPECT_EQ(controller.m_custResourceDir, host.bundles.resourceFolder);
+    EXPECT_EQ(controller.m_appResourceDir, host.bundles.resourceFolder);
+    EXPECT_EQ(controller.m_execPath, host.bundles.executable);
+    EXPECT_TRUE(host.streams.appended.empty());
+}
+
+TEST_F(WizardStartUpTest, TheHomeDirectoryIsTheUsers) {
+    EXPECT_EQ(ec::ecController(host.host()).readHomeDirectory(), "/Users/someone");
+}
+
+TEST_F(WizardStartUpTest, AnExecutableOutsideTheVolumeIsOnNoDiskImageAndTheDiskIsNotTouched) {
+    host.bundles.executable = "/Applications/Volumes/Scrivel/Installer";
+    fs::permissions(folder / "resources", fs::perms::none);
+    EXPECT_FALSE(ec::ecController(host.host()).isOnDiskImage());
+    fs::permissions(folder / "resources", fs::perms::owner_all);
+    EXPECT_TRUE(fs::is_empty(folder / "resources"));
+}
+
+TEST_F(WizardStartUpTest, AWritableVolumeIsNoDiskImageAndKeepsNoTrace) {
+    EXPECT_FALSE(ec::ecController(host.host()).isOnDiskImage());
+    EXPECT_TRUE(fs::is_empty(folder / "resources"));
+}
+
+TEST_F(WizardStartUpTest, AVolumeThatTakesNoFileIsTheDiskImage) {
+    host.bundles.resourceFolder = (folder / "missing").string();
+    EXPECT_TRUE(ec::ecController(host.host()).isOnDiskImage());
+}
+
+TEST_F(WizardStartUpTest, TheVolumeIsLookedForUnderTheRoot) {
+    host.places.root = "/elsewhere";
+    host.bundles.resourceFolder = (folder / "missing").string();
+    EXPECT_FALSE(ec::ecController(host.host()).isOnDiskImage());
+    host.bundles.executable = "/elsewhere/Volumes/Scrivel/Installer";
+    EXPECT_TRUE(ec::ecController(host.host()).isOnDiskImage());
+}
+
+TEST_F(WizardStartUpTest, WordRunsWhenItsIdentifierDoes) {
+    const ec::ecController controller(host.host());
+    EXPECT_FALSE(controller.isWordRunning());
+    host.applications.running.insert("com.microsoft.Word");
+    EXPECT_TRUE(controller.isWordRunning());
+    EXPECT_TRUE(controller.isAppWithBundleIDRunning("com.microsoft.Word"));
+    EXPECT_FALSE(controller.isAppWithBundleIDRunning("com.microsoft.word"));
+    EXPECT_FALSE(controller.isAppWithBundleIDRunning(std::nullopt));
+}
+
+TEST_F(WizardStartUpTest, ABundlesTextIsAnsweredOrNone) {
+    host.bundles.strings[{"/Applications/A.app", "CFBundleShortVersionString"}] = "16.89.1";
+    ec::ecController controller(host.host());
+    EXPECT_EQ(controller.getBundleStringForPath("/Applications/A.app",
+                                                "CFBundleShortVersionString"),
+              "16.89.1");
+    EXPECT_EQ(controller.getBundleStringForPath("/Applications/A.app", "Other"), std::nullopt);
+}
+
+} // namespace
