@@ -27,23 +27,22 @@ class Record {
     template <std::unsigned_integral T>
     Record& add(T value) {
         for (std::size_t i = 0; i < sizeof(T); ++i)
-            m_bytes.push_back(static_cast<std::byte>(value >> (8 * i)));
+            m_bytes += static_cast<char>(value >> (8 * i));
         return *this;
     }
     Record& add(std::string_view text) {
-        const auto* bytes = reinterpret_cast<const std::byte*>(text.data());
-        m_bytes.insert(m_bytes.end(), bytes, bytes + text.size());
+        m_bytes += text;
         return *this;
     }
     Record& add(const Record& other) {
-        m_bytes.insert(m_bytes.end(), other.m_bytes.begin(), other.m_bytes.end());
+        m_bytes += other.m_bytes;
         return *this;
     }
     std::size_t size() const { return m_bytes.size(); }
-    std::span<const std::byte> bytes() const { return m_bytes; }
+    const std::string& text() const { return m_bytes; }
 
   private:
-    std::vector<std::byte> m_bytes;
+    std::string m_bytes;
 };
 
 struct DosTime {
@@ -177,16 +176,16 @@ void ZipWriter::add(const ZipEntry& entry, std::span<const std::byte> contents) 
     central.add(static_cast<std::uint32_t>(offset));
     central.add(path).add(centralZip64).add(times);
 
-    write(local.bytes());
+    write(std::as_bytes(std::span(local.text())));
     write(packed);
-    m_directory.insert(m_directory.end(), central.bytes().begin(), central.bytes().end());
+    m_directory += central.text();
     ++m_count;
 }
 
 void ZipWriter::finish() {
     const std::uint64_t start = m_written;
     const std::uint64_t length = m_directory.size();
-    write(m_directory);
+    write(std::as_bytes(std::span(m_directory)));
     Record end;
     if (m_options.alwaysZip64 || m_count >= kFull16 || start >= kFull32 || length >= kFull32) {
         end.add(kEnd64Mark).add(std::uint64_t{kEnd64Length - 12});
@@ -203,7 +202,7 @@ void ZipWriter::finish() {
     };
     end.add(kEndMark).add(std::uint16_t{0}).add(std::uint16_t{0}).add(count).add(count);
     end.add(shortened(length)).add(shortened(start)).add(std::uint16_t{0});
-    write(end.bytes());
+    write(std::as_bytes(std::span(end.text())));
 }
 
 } // namespace formats

@@ -54,7 +54,7 @@ class ZipWriter {
     Options m_options;
     libdeflate_compressor* m_compressor = nullptr;
     std::vector<std::byte> m_packed; // reused
-    std::vector<std::byte> m_directory;
+    std::string m_directory;
     std::uint64_t m_written = 0;
     std::uint64_t m_count = 0;
 };

@@ -11,6 +11,7 @@
 #include <limits.h>
 
 #include "tools/files/ExtendedAttributes.h"
+#include "tools/files/FolderEntries.h"
 #include "tools/files/MacAttributes.h"
 
 namespace tools {
@@ -21,42 +22,6 @@ constexpr std::size_t kNamesOfABatch = 128;
 constexpr std::size_t kWaitingBatches = 32;
 
 constexpr mode_t kPermissions = 07777;
-
-struct CloseFolder {
-    void operator()(DIR* stream) const { ::closedir(stream); }
-};
-using FolderStream = std::unique_ptr<DIR, CloseFolder>;
-
-FolderStream openStream(int folder) {
-    // With a place of its own in the folder, which a duplicate would share.
-    Descriptor own(checked(::openat(folder, ".", O_RDONLY | O_DIRECTORY | O_CLOEXEC)));
-    DIR* stream = ::fdopendir(own.number());
-    if (stream == nullptr)
-        throwErrno();
-    own.release();
-    return FolderStream(stream);
-}
-
-/// The next entry but "." and ".."; null at the end.
-const dirent* nextEntry(DIR* stream) {
-    for (;;) {
-        errno = 0;
-        const dirent* entry = ::readdir(stream); // NOLINT(concurrency-mt-unsafe): own stream
-        if (entry == nullptr && errno != 0)
-            throwErrno();
-        if (entry == nullptr ||
-            (std::strcmp(entry->d_name, ".") != 0 && std::strcmp(entry->d_name, "..") != 0))
-            return entry;
-    }
-}
-
-char kindOf(const dirent& entry, int folder) {
-    if (entry.d_type != DT_UNKNOWN)
-        return static_cast<char>(entry.d_type);
-    struct stat status{};
-    checked(::fstatat(folder, entry.d_name, &status, AT_SYMLINK_NOFOLLOW));
-    return static_cast<char>(IFTODT(status.st_mode));
-}
 
 bool areSame(const struct stat& a, const struct stat& b) {
     return a.st_dev == b.st_dev && a.st_ino == b.st_ino;
@@ -210,9 +175,9 @@ void TreeCopy::makeFolder(const Folder& folder, Worker& worker) {
 }
 
 void TreeCopy::enter(const Folder& folder, Worker& worker, WorkQueue<Batch>& queue) {
-    const FolderStream stream = openStream(worker.from.of(folder));
+    FolderEntries entries(worker.from.of(folder));
     struct stat status{};
-    checked(::fstat(::dirfd(stream.get()), &status));
+    checked(::fstat(entries.descriptor(), &status));
     m_finishes.push_back({&folder, status});
     Batch batch(folder);
     const auto handOut = [&] {
@@ -221,15 +186,14 @@ void TreeCopy::enter(const Folder& folder, Worker& worker, WorkQueue<Batch>& que
         if (const auto own = queue.offer(std::exchange(batch, Batch(folder))))
             copyBatch(*own, worker);
     };
-    while (const dirent* entry = nextEntry(stream.get())) {
-        const char kind = kindOf(*entry, ::dirfd(stream.get()));
-        if (kind == DT_DIR) {
-            m_folders.push_back({&folder, entry->d_name});
+    while (const auto entry = entries.next()) {
+        if (entry->kind == DT_DIR) {
+            m_folders.push_back({&folder, entry->name});
             m_pending.push_back(&m_folders.back());
             continue;
         }
-        batch.names += kind;
-        batch.names.append(entry->d_name, std::strlen(entry->d_name) + 1);
+        batch.names += static_cast<char>(entry->kind);
+        batch.names.append(entry->name, std::strlen(entry->name) + 1);
         if (++batch.count == kNamesOfABatch)
             handOut();
     }
@@ -431,15 +395,14 @@ std::uint64_t sizeOfTree(int top) {
         const Folder& folder = *pending.back();
         pending.pop_back();
         try {
-            const FolderStream stream = openStream(descriptors.of(folder));
-            while (const dirent* entry = nextEntry(stream.get())) {
-                const char kind = kindOf(*entry, ::dirfd(stream.get()));
+            FolderEntries entries(descriptors.of(folder));
+            while (const auto entry = entries.next()) {
                 struct stat status{};
-                if (kind == DT_DIR) {
-                    folders.push_back({&folder, entry->d_name});
+                if (entry->kind == DT_DIR) {
+                    folders.push_back({&folder, entry->name});
                     pending.push_back(&folders.back());
-                } else if (kind == DT_REG && ::fstatat(::dirfd(stream.get()), entry->d_name,
-                                                       &status, AT_SYMLINK_NOFOLLOW) == 0) {
+                } else if (entry->kind == DT_REG && ::fstatat(entries.descriptor(), entry->name,
+                                                              &status, AT_SYMLINK_NOFOLLOW) == 0) {
                     total += static_cast<std::uint64_t>(status.st_size);
                 }
             }
