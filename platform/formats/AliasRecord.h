@@ -1,10 +1,12 @@
 // Classic alias records, version 2: what a Finder alias file keeps as resource 'alis' 0 to find its
 // target again.
 //
-// Format: 150 bytes of fixed fields behind the public header of Inside Macintosh: Files (user type
-// and size), then tagged extras, each at an even offset, up to the tag 0xFFFF. Everything is
-// big-endian. Names in the record are Carbon names: where a path has ':' they have '/'. Pure
-// functions over bytes: no disk, no state, any thread. Input may be hostile.
+// Format: 150 bytes of fixed fields that begin with the public header of Inside Macintosh: Files
+// (user type and size), then tagged extras, each at an even offset, up to the tag 0xFFFF. All but
+// the header was never published; the descriptions in circulation differ on which of type and
+// creator comes first: type does here. Everything is big-endian. Names in the record are Carbon
+// names: where a path has ':' they have '/'. Pure functions over bytes: no disk, no state, any
+// thread. Input may be hostile.
 #pragma once
 
 #include <cstddef>

@@ -284,7 +284,7 @@ bool FinderFileStore::setFolderIcon(const std::string& folder, const std::string
     struct stat facts{};
     if (::lstat(item.c_str(), &facts) != 0 || !S_ISDIR(facts.st_mode))
         return false;
-    const auto family = readFile(icnsFile, Links::Follow);
+    auto family = readFile(icnsFile, Links::Follow);
     if (!family || !formats::iconFamilyElements(*family))
         return false;
 

@@ -1,6 +1,5 @@
 #include "platform/formats/AliasRecord.h"
 
-#include <algorithm>
 #include <stdexcept>
 
 #include <gtest/gtest.h>
@@ -12,6 +11,7 @@ namespace formats {
 namespace {
 
 using testing::bytesOf;
+using testing::changed;
 using testing::hex;
 using testing::operator+;
 
@@ -42,11 +42,6 @@ const Bytes kRecord = hex("00000000 00D8 0002 0001") + hex("04 4469736B") + Byte
                           "0012 0008 2F6D652FC3843A62"
                           "0013 000D 2F566F6C756D65732F4469736B 00"
                           "FFFF 0000");
-
-Bytes changed(Bytes image, std::size_t at, const Bytes& to) {
-    std::ranges::copy(to, image.begin() + static_cast<std::ptrdiff_t>(at));
-    return image;
-}
 
 TEST(AliasRecord, FieldsStandAtTheirOffsets) {
     const Bytes record = writeAliasRecord(target());

@@ -10,6 +10,7 @@ namespace formats {
 namespace {
 
 using testing::bytesOf;
+using testing::changed;
 using testing::hex;
 using testing::operator+;
 
@@ -44,11 +45,6 @@ AppleDouble valueWithAttributes() {
     AppleDouble value = plainValue();
     value.attributes = {{"a", bytesOf("xyz")}, {"user.tag", {}}};
     return value;
-}
-
-Bytes changed(Bytes image, std::size_t at, const Bytes& to) {
-    std::ranges::copy(to, image.begin() + static_cast<std::ptrdiff_t>(at));
-    return image;
 }
 
 TEST(AppleDouble, AKnownImageIsRead) {

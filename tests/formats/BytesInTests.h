@@ -40,6 +40,13 @@ inline Bytes operator+(Bytes left, const Bytes& right) {
     return left;
 }
 
+/// `image` with the bytes from offset `at` replaced by `to`.
+inline Bytes changed(Bytes image, std::size_t at, const Bytes& to) {
+    for (const std::byte byte : to)
+        image.at(at++) = byte;
+    return image;
+}
+
 /// Calls `check` with each proper prefix of `image`, in a block of memory that ends with it, so
 /// that the sanitizer sees a read past the end.
 template <typename Check>

@@ -1,7 +1,5 @@
 #include "platform/formats/IconFamily.h"
 
-#include <algorithm>
-
 #include <gtest/gtest.h>
 
 #include "platform/formats/ResourceFork.h"
@@ -11,16 +9,12 @@ namespace formats {
 namespace {
 
 using testing::bytesOf;
+using testing::changed;
 using testing::hex;
 using testing::operator+;
 
 const Bytes kFamily = bytesOf("icns") + hex("0000001C") + bytesOf("ic07") +
                       hex("0000000C 89504E47") + bytesOf("TOC ") + hex("00000008");
-
-Bytes changed(Bytes image, std::size_t at, const Bytes& to) {
-    std::ranges::copy(to, image.begin() + static_cast<std::ptrdiff_t>(at));
-    return image;
-}
 
 TEST(IconFamily, ElementsAreGivenInTheirOrder) {
     EXPECT_EQ(iconFamilyElements(kFamily),

@@ -11,6 +11,7 @@ namespace formats {
 namespace {
 
 using testing::bytesOf;
+using testing::changed;
 using testing::hex;
 using testing::operator+;
 
@@ -33,11 +34,6 @@ std::vector<Resource> forkValue() {
     return {{fourCharacters("vers"), 1, "", hex("0102")},
             {fourCharacters("STR "), 128, "Hi", bytesOf("ABC")},
             {fourCharacters("STR "), -1, "", hex("FFFFFFFF")}};
-}
-
-Bytes changed(Bytes image, std::size_t at, const Bytes& to) {
-    std::ranges::copy(to, image.begin() + static_cast<std::ptrdiff_t>(at));
-    return image;
 }
 
 TEST(ResourceFork, AKnownImageIsRead) {
