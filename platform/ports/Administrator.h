@@ -13,6 +13,11 @@ class Administrator {
   public:
     virtual ~Administrator() = default;
 
+    /// Errors that every adapter uses in these cases, numbered as Authorization Services does:
+    /// the rights were refused or the prompt was cancelled; the tool could not be started.
+    static constexpr int kDenied = -60005;
+    static constexpr int kToolExecuteFailure = -60031;
+
     /// Opens an authorization session without any rights. 0, or the platform's error.
     virtual int createSession() = 0;
 

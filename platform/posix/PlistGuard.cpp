@@ -16,8 +16,6 @@ class XmlOutline {
     explicit XmlOutline(std::string_view text) : m_text(text) {}
 
     bool isSafe() {
-        if (std::ranges::count(m_text, '&') > std::ptrdiff_t{PlistLimits::kCharacterReferences})
-            return false;
         while (const auto tag = nextTag())
             if (!count(*tag))
                 return false;
@@ -29,8 +27,9 @@ class XmlOutline {
     /// passed over.
     std::optional<std::string_view> nextTag() {
         for (;;) {
-            m_at = m_text.find('<', m_at);
-            if (m_at == std::string_view::npos)
+            const std::size_t begin = m_at;
+            m_at = std::min(m_text.find('<', m_at), m_text.size());
+            if (!moves(m_text.substr(begin, m_at - begin)) || m_at == m_text.size())
                 return std::nullopt;
             if (skip("<!--", "-->") || skip("<![CDATA[", "]]>") || skip("<?", "?>"))
                 continue;
@@ -43,6 +42,12 @@ class XmlOutline {
             m_at = end + 1;
             return tag;
         }
+    }
+
+    bool moves(std::string_view text) {
+        m_moves += static_cast<std::uint64_t>(std::ranges::count(text, '&')) * text.size();
+        m_broken = m_broken || m_moves > PlistLimits::kCharacterMoves;
+        return !m_broken;
     }
 
     bool skip(std::string_view opening, std::string_view closing) {
@@ -68,6 +73,7 @@ class XmlOutline {
     std::string_view m_text;
     std::size_t m_at = 0;
     int m_depth = 0;
+    std::uint64_t m_moves = 0;
     bool m_broken = false;
 };
 

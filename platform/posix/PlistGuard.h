@@ -5,6 +5,7 @@
 #pragma once
 
 #include <cstddef>
+#include <cstdint>
 #include <string_view>
 
 namespace posix {
@@ -13,9 +14,9 @@ struct PlistLimits {
     /// Of the file, and of what a binary list unfolds to.
     static constexpr std::size_t kBytes = 16 << 20;
     static constexpr int kDepth = 100;
-    /// References to characters in an XML list, which the library replaces one by one, moving all
-    /// that follows.
-    static constexpr std::size_t kCharacterReferences = 20000;
+    /// Character references in an XML list times the length of the text that each stands in: the
+    /// library replaces them one by one and moves all that follows (a fifth of a second).
+    static constexpr std::uint64_t kCharacterMoves = 10'000'000'000;
 };
 
 /// May the library read this? False says only that it is too big, too deep, folded too often, or

@@ -1,0 +1,90 @@
+#include "platform/linux/ProcApplications.h"
+
+#include <charconv>
+#include <fcntl.h>
+#include <system_error>
+#include <unistd.h>
+#include <utility>
+
+#include "platform/linux/ProcessBundle.h"
+#include "platform/posix/ChildProcess.h"
+
+namespace linuxhost {
+
+namespace fs = std::filesystem;
+
+namespace {
+
+/// Links resolved where the path leads somewhere; processes show resolved paths.
+std::string resolved(const std::string& path) {
+    std::error_code error;
+    const fs::path canonical = fs::canonical(path, error);
+    return error ? path : canonical.string();
+}
+
+bool isProcess(std::string_view name) {
+    pid_t pid = 0;
+    const auto [end, error] = std::from_chars(name.data(), name.data() + name.size(), pid);
+    return error == std::errc() && end == name.data() + name.size() && pid != ::getpid();
+}
+
+} // namespace
+
+ProcApplications::ProcApplications(Needs needs) : m_needs(std::move(needs)) {
+    if (!m_needs.root.empty())
+        m_needs.root = resolved(m_needs.root);
+}
+
+bool ProcApplications::isBelowRoot(const std::string& bundle) const {
+    return m_needs.root.empty() || resolved(bundle).starts_with(m_needs.root + "/");
+}
+
+const std::optional<std::string>& ProcApplications::identifierOf(const std::string& bundle) {
+    std::error_code error;
+    const auto written = fs::last_write_time(bundle + "/Contents/Info.plist", error);
+    auto [entry, isNew] = m_known.try_emplace(bundle);
+    Known& known = entry->second;
+    if (isNew || error || known.written != written)
+        known = {written, m_needs.bundles.infoString(bundle, "CFBundleIdentifier")};
+    return known.identifier;
+}
+
+bool ProcApplications::isRunning(std::string_view bundleIdentifier) {
+    std::error_code error;
+    for (fs::directory_iterator at("/proc", error), end; !error && at != end; at.increment(error)) {
+        if (!isProcess(at->path().filename().native()))
+            continue;
+        const std::string bundle = bundleOfProcess(at->path().native());
+        if (!bundle.empty() && isBelowRoot(bundle) && identifierOf(bundle) == bundleIdentifier)
+            return true;
+    }
+    return false;
+}
+
+bool ProcApplications::launch(const std::string& path) {
+    std::error_code error;
+    const fs::path bundle = fs::canonical(path, error);
+    if (error)
+        return false;
+    const std::string name = m_needs.bundles.infoString(bundle.string(), "CFBundleExecutable")
+                                 .value_or(bundle.stem().string());
+    const fs::path folder = bundle / "Contents" / "MacOS";
+    const fs::path executable = fs::canonical(folder / name, error);
+    if (error || executable.parent_path() != folder || !fs::is_regular_file(executable, error))
+        return false;
+    const posix::Descriptor nowhere(::open("/dev/null", O_WRONLY | O_CLOEXEC));
+    const auto terminalOr = [&](int output) {
+        return ::isatty(output) == 1 ? output : nowhere.number();
+    };
+    posix::ChildProcess child;
+    if (child.start({.program = executable.string(),
+                     .output = terminalOr(STDOUT_FILENO),
+                     .error = terminalOr(STDERR_FILENO),
+                     .environment = {"HOME=" + m_needs.home},
+                     .detached = true}) != 0)
+        return false;
+    child.abandon();
+    return true;
+}
+
+} // namespace linuxhost

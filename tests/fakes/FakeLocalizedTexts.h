@@ -1,0 +1,25 @@
+// ports::LocalizedTexts from a table that a test fills.
+#pragma once
+
+#include <map>
+#include <string>
+#include <vector>
+
+#include "platform/ports/LocalizedTexts.h"
+
+namespace fakes {
+
+class FakeLocalizedTexts final : public ports::LocalizedTexts {
+  public:
+    std::map<std::string, std::string, std::less<>> table;
+    /// Every key that was looked up, in order.
+    mutable std::vector<std::string> lookedUp;
+
+    std::string lookUp(std::string_view key) const override {
+        lookedUp.emplace_back(key);
+        const auto entry = table.find(key);
+        return entry == table.end() ? std::string(key) : entry->second;
+    }
+};
+
+} // namespace fakes

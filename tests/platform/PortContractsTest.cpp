@@ -1,0 +1,265 @@
+// What the small ports promise, on the real adapters and on the fakes.
+#include <chrono>
+#include <gtest/gtest.h>
+#include <memory>
+#include <optional>
+#include <poll.h>
+#include <stdexcept>
+#include <string>
+#include <vector>
+
+#include "platform/posix/FileTextStreams.h"
+#include "platform/posix/PlistBundles.h"
+#include "platform/posix/ProcessSystem.h"
+#include "platform/posix/StringsFileTexts.h"
+#include "platform/posix/SystemClock.h"
+#include "platform/posix/ThreadQueues.h"
+#include "tests/fakes/FakeBundles.h"
+#include "tests/fakes/FakeClock.h"
+#include "tests/fakes/FakeLocalizedTexts.h"
+#include "tests/fakes/FakeQueues.h"
+#include "tests/fakes/FakeTextStreams.h"
+#include "tests/platform/TemporaryFolder.h"
+
+namespace {
+
+std::string dictionary(const std::string& body) {
+    return "<?xml version=\"1.0\" encoding=\"UTF-8\"?><plist version=\"1.0\"><dict>" + body +
+           "</dict></plist>";
+}
+
+// --- Text streams
+
+struct RealStreams {
+    std::string contents(const std::string& path) { return TemporaryFolder::read(path); }
+    std::string goodPath() { return folder.path("log"); }
+    std::string badPath() { return folder.path("missing/log"); }
+    int feed(const std::string& bytes) {
+        pipe = posix::makePipe();
+        EXPECT_EQ(::write(pipe.writing.number(), bytes.data(), bytes.size()),
+                  static_cast<ssize_t>(bytes.size()));
+        pipe.writing.close();
+        return pipe.reading.number();
+    }
+    TemporaryFolder folder;
+    posix::Pipe pipe;
+    posix::FileTextStreams streams;
+};
+
+struct PretendedStreams {
+    PretendedStreams() { streams.refused.insert(badPath()); }
+    std::string contents(const std::string& path) { return streams.files[path]; }
+    std::string goodPath() { return "/log"; }
+    std::string badPath() { return "/missing/log"; }
+    int feed(const std::string& bytes) { return streams.feed(bytes); }
+    fakes::FakeTextStreams streams;
+};
+
+template <class Host>
+class TextStreamsContract : public testing::Test {
+  protected:
+    Host host;
+    ports::TextStreams& streams = host.streams;
+};
+using StreamHosts = testing::Types<RealStreams, PretendedStreams>;
+TYPED_TEST_SUITE(TextStreamsContract, StreamHosts);
+
+TYPED_TEST(TextStreamsContract, WhatIsAppendedFollowsWhatStoodThere) {
+    const std::string path = this->host.goodPath();
+    EXPECT_TRUE(this->streams.append(path, "one\n"));
+    EXPECT_TRUE(this->streams.append(path, "two\n"));
+    EXPECT_EQ(this->host.contents(path), "one\ntwo\n");
+}
+
+TYPED_TEST(TextStreamsContract, AFileThatCannotBeOpenedIsToldAndNothingIsKept) {
+    EXPECT_FALSE(this->streams.append(this->host.badPath(), "one\n"));
+    EXPECT_EQ(this->host.contents(this->host.badPath()), "");
+}
+
+TYPED_TEST(TextStreamsContract, ReadingFillsTheBufferAndThenGivesTheRestAndTheEnd) {
+    const int descriptor = this->host.feed("abcdef");
+    char buffer[4];
+    EXPECT_EQ(this->streams.read(descriptor, buffer), 4u);
+    EXPECT_EQ(std::string(buffer, 4), "abcd");
+    EXPECT_EQ(this->streams.read(descriptor, buffer), 2u);
+    EXPECT_EQ(std::string(buffer, 2), "ef");
+    EXPECT_EQ(this->streams.read(descriptor, buffer), 0u);
+    EXPECT_EQ(this->streams.read(descriptor, buffer), 0u);
+}
+
+// --- Bundles
+
+struct RealBundles {
+    void give(const std::string& name, const std::string& key, const std::string& value) {
+        folder.write(name + "/Contents/Info.plist",
+                     dictionary("<key>" + key + "</key><string>" + value + "</string>"));
+    }
+    std::string path(const std::string& name) { return folder.path(name); }
+    TemporaryFolder folder;
+    posix::PlistBundles bundles{folder.writeProgram("I.app/Contents/MacOS/I", "")};
+};
+
+struct PretendedBundles {
+    void give(const std::string& name, const std::string& key, const std::string& value) {
+        bundles.strings[{path(name), key}] = value;
+    }
+    std::string path(const std::string& name) { return "/" + name; }
+    fakes::FakeBundles bundles;
+};
+
+template <class Host>
+class BundlesContract : public testing::Test {
+  protected:
+    Host host;
+    ports::Bundles& bundles = host.bundles;
+};
+using BundleHosts = testing::Types<RealBundles, PretendedBundles>;
+TYPED_TEST_SUITE(BundlesContract, BundleHosts);
+
+TYPED_TEST(BundlesContract, AStringOfTheInformationDictionaryIsGivenAsItStands) {
+    this->host.give("X.app", "CFBundleShortVersionString", "16.89.1");
+    EXPECT_EQ(this->bundles.infoString(this->host.path("X.app"), "CFBundleShortVersionString"),
+              "16.89.1");
+}
+
+TYPED_TEST(BundlesContract, AbsentKeysAndAbsentBundlesGiveNone) {
+    this->host.give("X.app", "a", "b");
+    EXPECT_EQ(this->bundles.infoString(this->host.path("X.app"), "A"), std::nullopt);
+    EXPECT_EQ(this->bundles.infoString(this->host.path("X.app"), ""), std::nullopt);
+    EXPECT_EQ(this->bundles.infoString(this->host.path("Y.app"), "a"), std::nullopt);
+    EXPECT_EQ(this->bundles.infoString("", "a"), std::nullopt);
+}
+
+TYPED_TEST(BundlesContract, TheMainBundlesPathsAreAbsoluteAndHaveNoSlashAtTheirEnd) {
+    for (const std::string& path :
+         {this->bundles.mainExecutable(), this->bundles.mainResourceFolder()}) {
+        EXPECT_TRUE(path.starts_with('/'));
+        EXPECT_FALSE(path.ends_with('/'));
+    }
+}
+
+// --- Localized texts
+
+struct RealTexts {
+    ports::LocalizedTexts& with(const std::string& key, const std::string& value) {
+        folder.write("de.lproj/Localizable.strings",
+                     dictionary("<key>" + key + "</key><string>" + value + "</string>"));
+        texts = std::make_unique<posix::StringsFileTexts>(posix::StringsFileTexts::Needs{
+            .resourceFolder = folder.path(), .languages = {"de_AT.UTF-8"}});
+        return *texts;
+    }
+    TemporaryFolder folder;
+    std::unique_ptr<posix::StringsFileTexts> texts;
+};
+
+struct PretendedTexts {
+    ports::LocalizedTexts& with(const std::string& key, const std::string& value) {
+        texts.table[key] = value;
+        return texts;
+    }
+    fakes::FakeLocalizedTexts texts;
+};
+
+template <class Host>
+class LocalizedTextsContract : public testing::Test {
+  protected:
+    Host host;
+};
+using TextHosts = testing::Types<RealTexts, PretendedTexts>;
+TYPED_TEST_SUITE(LocalizedTextsContract, TextHosts);
+
+TYPED_TEST(LocalizedTextsContract, AKeyInTheTableGivesItsTranslationAndAnyOtherItself) {
+    const ports::LocalizedTexts& texts = this->host.with("Install %@", "%@ installieren");
+    EXPECT_EQ(texts.lookUp("Install %@"), "%@ installieren");
+    EXPECT_EQ(texts.lookUp("install %@"), "install %@");
+    EXPECT_EQ(texts.lookUp(""), "");
+}
+
+// --- Queues
+
+struct RealQueues {
+    void runUntilIdle() {
+        while (background.isBusy()) {
+            pollfd waiting{main.descriptor(), POLLIN, 0};
+            ::poll(&waiting, 1, 1);
+            main.runPending();
+        }
+        main.runPending();
+    }
+    posix::MainQueue main;
+    posix::BackgroundQueue background;
+};
+
+struct PretendedQueues {
+    void runUntilIdle() {
+        background.run();
+        main.runPending();
+    }
+    fakes::FakeMainQueue main;
+    fakes::FakeBackgroundQueue background;
+};
+
+template <class Host>
+class QueuesContract : public testing::Test {
+  protected:
+    Host host;
+    ports::MainQueue& main = host.main;
+    ports::BackgroundQueue& background = host.background;
+};
+using QueueHosts = testing::Types<RealQueues, PretendedQueues>;
+TYPED_TEST_SUITE(QueuesContract, QueueHosts);
+
+TYPED_TEST(QueuesContract, PostedWorkRunsLaterAndInItsOrder) {
+    std::string order;
+    this->main.post([&] { order += "a"; });
+    this->main.post([&] { order += "b"; });
+    EXPECT_EQ(order, "");
+    this->host.runUntilIdle();
+    EXPECT_EQ(order, "ab");
+}
+
+TYPED_TEST(QueuesContract, SyncComesAfterWhatWasPostedBeforeAndReturnsWhenItHasRun) {
+    std::string order;
+    this->background.async([&] {
+        this->main.post([&] { order += "posted "; });
+        this->main.sync([&] { order += "synced "; });
+        order += "after";
+    });
+    EXPECT_TRUE(this->background.isBusy());
+    this->host.runUntilIdle();
+    EXPECT_FALSE(this->background.isBusy());
+    EXPECT_EQ(order, "posted synced after");
+}
+
+TYPED_TEST(QueuesContract, AnExceptionThatLeavesSyncedWorkIsRethrownToTheOneWhoWaits) {
+    std::string caught;
+    this->background.async([&] {
+        try {
+            this->main.sync([] { throw std::runtime_error("no"); });
+        } catch (const std::runtime_error& error) {
+            caught = error.what();
+        }
+    });
+    this->host.runUntilIdle();
+    EXPECT_EQ(caught, "no");
+}
+
+TYPED_TEST(QueuesContract, TheThreadThatMadeTheQueueIsTheMainThread) {
+    EXPECT_TRUE(this->main.isMainThread());
+}
+
+// --- Clock
+
+template <class Clock>
+class ClockContract : public testing::Test {};
+using Clocks = testing::Types<posix::SystemClock, fakes::FakeClock>;
+TYPED_TEST_SUITE(ClockContract, Clocks);
+
+TYPED_TEST(ClockContract, TheTimeIsOneAfterThisProgramWasBegunAndNeverFarFromTheLast) {
+    const TypeParam clock;
+    const auto first = clock.now();
+    EXPECT_GT(first.time_since_epoch(), std::chrono::seconds(1'700'000'000));
+    EXPECT_LT(clock.now() - first, std::chrono::hours(1));
+}
+
+} // namespace
