@@ -36,7 +36,8 @@ std::unique_ptr<ports::Applications> makeApplications(const ports::SystemPlaces&
 }
 
 std::unique_ptr<ports::FinderFiles> makeFinderFiles() {
-    return std::make_unique<posix::FinderFileStore>();
+    return std::make_unique<posix::FinderFileStore>(
+        posix::FinderFileStore::Needs{.calls = posix::finderFileCalls()});
 }
 
 std::unique_ptr<ports::Administrator> makeAdministrator(const std::string& ownToolsFolder,

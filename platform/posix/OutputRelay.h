@@ -27,9 +27,6 @@ class OutputRelay {
     /// thrown away, and the child goes on undisturbed. Once for each object.
     int relay(ChildProcess& child, const std::function<void(int)>& reader);
 
-    /// The reading end, to keep it open after `relay`; it stands at its end.
-    Descriptor takeReadingEnd() { return std::move(m_toReader.reading); }
-
   private:
     Pipe m_fromChild;
     Pipe m_toReader;

@@ -101,7 +101,7 @@ TYPED_TEST(AdministratorContract, AStartedToolIsASuccessWhateverBecomesOfIt) {
     for (const int exits : {0, 1, 7}) {
         std::string output;
         EXPECT_EQ(this->administrator.start(
-                      this->host.toolThatPrints("some text", exits), true,
+                      this->host.toolThatPrints("some text", exits),
                       [&](int descriptor) { output = readAll(this->host.streams, descriptor); }),
                   0);
         EXPECT_EQ(output, "some text");
