@@ -195,9 +195,8 @@ TEST_F(SudoTest, AToolOfOurOwnStandsInForOneThatTheSystemLacks) {
     SudoAdministrator root({.ownToolsFolder = folder.path("own"), .isRoot = true});
     ASSERT_EQ(root.requestRights(), 0);
     std::string output;
-    EXPECT_EQ(root.start({"/usr/bin/lacking", {}},
-                         [&](int end) { output = readAll(streams, end); }),
-              0);
+    EXPECT_EQ(
+        root.start({"/usr/bin/lacking", {}}, [&](int end) { output = readAll(streams, end); }), 0);
     EXPECT_EQ(output, "ours");
 }
 
