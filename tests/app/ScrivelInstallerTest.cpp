@@ -125,33 +125,30 @@ TEST_F(ScrivelInstallerTest, WithBothApplicationsClosedAndNoFolderExtractionStar
     EXPECT_TRUE(fs::is_directory(destination + "/Scrivel 21.app"));
     EXPECT_FALSE(fs::exists(temporary));
     EXPECT_THAT(host.applications.launched, ElementsAre(destination + "/Scrivel 21.app"));
-    EXPECT_THAT(statuses,
-                ElementsAre("Extracting Scrivel 21\u2026",
-                            "Installing Scrivel 21 to the Applications folder\u2026",
-                            "Launching Scrivel 21 for the first time\u2026"));
+    EXPECT_THAT(statuses, ElementsAre("Extracting Scrivel 21\u2026",
+                                      "Installing Scrivel 21 to the Applications folder\u2026",
+                                      "Launching Scrivel 21 for the first time\u2026"));
 }
 
 TEST_F(ScrivelInstallerTest, TheLogOfAnInstallReadsLineForLine) {
     EXPECT_EQ(install(), 0);
     const std::string zip = host.bundles.resourceFolder + "/Scrivel.zip";
     const std::string product = temporary + "/Scrivel";
-    EXPECT_THAT(
-        host.logged(),
-        ElementsAre("Executing /usr/bin/ditto",
-                    "execCmdLineApp /usr/bin/ditto -xk --noqtn " + zip + " " + temporary +
-                        " result: ",
-                    "Copy: " + product + " -> " + destination,
-                    "Running as user: /usr/bin/ditto -rsrcFork " + product + " " + destination +
-                        " Result: 0",
-                    "Remove File: " + product, "Unlock Dir: " + product,
-                    "Running as user: /usr/bin/chflags -R nouchg " + product + " Result: 0",
-                    "Running as user: /bin/rm -rf " + product + " Result: 0"));
+    EXPECT_THAT(host.logged(),
+                ElementsAre("Executing /usr/bin/ditto",
+                            "execCmdLineApp /usr/bin/ditto -xk --noqtn " + zip + " " + temporary +
+                                " result: ",
+                            "Copy: " + product + " -> " + destination,
+                            "Running as user: /usr/bin/ditto -rsrcFork " + product + " " +
+                                destination + " Result: 0",
+                            "Remove File: " + product, "Unlock Dir: " + product,
+                            "Running as user: /usr/bin/chflags -R nouchg " + product + " Result: 0",
+                            "Running as user: /bin/rm -rf " + product + " Result: 0"));
 }
 
 TEST_F(ScrivelInstallerTest, TheTemporaryFolderIsNamedSvAndEightOrMoreHexadecimalDigits) {
     install();
-    EXPECT_THAT(fs::path(temporary).filename().string(),
-                testing::MatchesRegex("SV[0-9a-f]{8,}"));
+    EXPECT_THAT(fs::path(temporary).filename().string(), testing::MatchesRegex("SV[0-9a-f]{8,}"));
 }
 
 TEST_F(ScrivelInstallerTest, TheProductIsAskedForBeforeWordAndShortCircuits) {
@@ -267,8 +264,8 @@ TEST_F(ScrivelInstallerTest, AMissingArchiveEndsWithZeroWithoutAMessageOrATrace)
 TEST_F(ScrivelInstallerTest, AFailedExtractionIsNotExaminedAndTheCopyFailsOnItsOwn) {
     unpacks = false;
     EXPECT_EQ(install(), 0);
-    EXPECT_THAT(host.logged(), testing::Contains("Copy: source path does not exist: " + temporary +
-                                                 "/Scrivel"));
+    EXPECT_THAT(host.logged(),
+                testing::Contains("Copy: source path does not exist: " + temporary + "/Scrivel"));
     EXPECT_FALSE(fs::exists(temporary));
 }
 

@@ -101,8 +101,8 @@ TEST_F(CommandRunnerTest, ARootRunThatCanNotStartLogsBothLines) {
 
 TEST_F(CommandRunnerTest, TheOutputOfALoggedCallGoesIntoTheLogBeforeItsStatus) {
     toolAnswers(0, "one\ntwo");
-    EXPECT_TRUE(controller.systemCallWithLog("tool.sh", Params{{std::string("x")}}, false)
-                    .succeeded());
+    EXPECT_TRUE(
+        controller.systemCallWithLog("tool.sh", Params{{std::string("x")}}, false).succeeded());
     EXPECT_EQ(host.tools.calls[0].tool, host.bundles.resourceFolder + "/tool.sh");
     EXPECT_THAT(host.logged(), ElementsAre("one", "two", "Run as user: tool.sh x Result: 0"));
 }
@@ -123,10 +123,9 @@ TEST_F(CommandRunnerTest, ALoggedCallGoesOnAsAdministratorWithItsOutputInTheLog)
     toolAnswers(9);
     host.administrator.output = "as root\n";
     EXPECT_TRUE(controller.systemCallWithLog("tool.sh", std::nullopt, false).succeeded());
-    EXPECT_THAT(host.logged(),
-                ElementsAre("Run as user: tool.sh  Result: 9", "Authenticate",
-                            "Authentication status :Succeeded", "as root",
-                            "Run as admin: tool.sh  Result: 0"));
+    EXPECT_THAT(host.logged(), ElementsAre("Run as user: tool.sh  Result: 9", "Authenticate",
+                                           "Authentication status :Succeeded", "as root",
+                                           "Run as admin: tool.sh  Result: 0"));
 }
 
 TEST_F(CommandRunnerTest, ALoggedCallThatCanNotStartAsAdministratorNamesTheWholePath) {
@@ -135,14 +134,13 @@ TEST_F(CommandRunnerTest, ALoggedCallThatCanNotStartAsAdministratorNamesTheWhole
     host.administrator.missing.insert(path);
     const ExitStatus status = controller.systemCallWithLog("tool.sh", std::nullopt, false);
     EXPECT_FALSE(status.succeeded());
-    EXPECT_EQ(host.logged()[3], "Failed to authenticate: " + path +
-                                    " Result: " + std::to_string(status.code()));
+    EXPECT_EQ(host.logged()[3],
+              "Failed to authenticate: " + path + " Result: " + std::to_string(status.code()));
 }
 
 TEST_F(CommandRunnerTest, AScriptsLineShowsItsParametersAsAList) {
-    EXPECT_TRUE(
-        controller.runResourceScript("Kill.sh", Params{{std::string("a b"), "c"}}, false)
-            .succeeded());
+    EXPECT_TRUE(controller.runResourceScript("Kill.sh", Params{{std::string("a b"), "c"}}, false)
+                    .succeeded());
     EXPECT_EQ(host.logged()[0], "Run: Kill.sh -> Params: (\n    \"a b\",\n    c\n)");
     EXPECT_EQ(host.tools.calls[0].tool, host.bundles.resourceFolder + "/Kill.sh");
 }

@@ -70,8 +70,7 @@ TEST_F(FileOperationsTest, AFailedRemovalUnlocksAgainAndRemovesAsAdministrator) 
     EXPECT_THAT(run(), ElementsAre("/usr/bin/chflags nouchg " + file, "/bin/rm -f " + file,
                                    "/usr/bin/chflags nouchg " + file));
     ASSERT_EQ(host.administrator.calls.size(), 1u);
-    EXPECT_EQ(host.administrator.calls[0],
-              (ports::ToolCall{"/bin/rm", {std::string("-f"), file}}));
+    EXPECT_EQ(host.administrator.calls[0], (ports::ToolCall{"/bin/rm", {std::string("-f"), file}}));
 }
 
 TEST_F(FileOperationsTest, AMissingPathFailsAfterItsLineAndRunsNothing) {
@@ -85,11 +84,10 @@ TEST_F(FileOperationsTest, AMissingPathFailsAfterItsLineAndRunsNothing) {
     EXPECT_EQ(controller.makeDir(missing), ExitStatus::failure());
     EXPECT_EQ(controller.symLink(missing, missing), ExitStatus::failure());
     EXPECT_THAT(run(), IsEmpty());
-    EXPECT_THAT(host.logged(),
-                ElementsAre("Remove File: (null)", "Rename File: (null) -> " + file,
-                            "Copy: " + file + " -> (null)", "Unlock File: (null)",
-                            "Unlock Dir: (null)", "chmod: " + file + " mode:(null)",
-                            "Make Dir: (null)", "SymLink: (null) -> (null)"));
+    EXPECT_THAT(host.logged(), ElementsAre("Remove File: (null)", "Rename File: (null) -> " + file,
+                                           "Copy: " + file + " -> (null)", "Unlock File: (null)",
+                                           "Unlock Dir: (null)", "chmod: " + file + " mode:(null)",
+                                           "Make Dir: (null)", "SymLink: (null) -> (null)"));
 }
 
 TEST_F(FileOperationsTest, ASourceThatDoesNotExistFailsWithALineOfItsOwn) {
@@ -97,13 +95,12 @@ TEST_F(FileOperationsTest, ASourceThatDoesNotExistFailsWithALineOfItsOwn) {
     EXPECT_EQ(controller.copyPath(none, file), ExitStatus::failure());
     EXPECT_EQ(controller.symLink(none, file), ExitStatus::failure());
     EXPECT_THAT(run(), IsEmpty());
-    EXPECT_THAT(host.logged(),
-                ElementsAre("Rename File: " + none + " -> " + file,
-                            "rename: source path does not exist: " + none,
-                            "Copy: " + none + " -> " + file,
-                            "Copy: source path does not exist: " + none,
-                            "SymLink: " + none + " -> " + file,
-                            "file or dir '" + none + "' is missing"));
+    EXPECT_THAT(host.logged(), ElementsAre("Rename File: " + none + " -> " + file,
+                                           "rename: source path does not exist: " + none,
+                                           "Copy: " + none + " -> " + file,
+                                           "Copy: source path does not exist: " + none,
+                                           "SymLink: " + none + " -> " + file,
+                                           "file or dir '" + none + "' is missing"));
 }
 
 TEST_F(FileOperationsTest, EachOperationRunsItsToolWithItsArguments) {
@@ -113,11 +110,11 @@ TEST_F(FileOperationsTest, EachOperationRunsItsToolWithItsArguments) {
     EXPECT_TRUE(controller.unlockDir(none).succeeded());
     EXPECT_TRUE(controller.chmod(file, "755").succeeded());
     EXPECT_TRUE(controller.symLink(file, none).succeeded());
-    EXPECT_THAT(run(), ElementsAre("/bin/mv " + file + " " + none,
-                                   "/usr/bin/ditto -rsrcFork " + folder + " " + none,
-                                   "/usr/bin/chflags nouchg " + none,
-                                   "/usr/bin/chflags -R nouchg " + none, "/bin/chmod 755 " + file,
-                                   "/bin/ln -s " + file + " " + none));
+    EXPECT_THAT(run(),
+                ElementsAre("/bin/mv " + file + " " + none,
+                            "/usr/bin/ditto -rsrcFork " + folder + " " + none,
+                            "/usr/bin/chflags nouchg " + none, "/usr/bin/chflags -R nouchg " + none,
+                            "/bin/chmod 755 " + file, "/bin/ln -s " + file + " " + none));
 }
 
 TEST_F(FileOperationsTest, EachOperationGoesOnAsAdministrator) {
@@ -135,11 +132,10 @@ TEST_F(FileOperationsTest, ACancelledPromptIsWantedToCountAsSuccess) {
     everyUserRunFails();
     refuseRights();
     EXPECT_TRUE(controller.copyPath(folder, none).succeeded());
-    EXPECT_THAT(host.logged(),
-                ElementsAre("Copy: " + folder + " -> " + none,
-                            "Running as user: /usr/bin/ditto -rsrcFork " + folder + " " + none +
-                                " Result: 1",
-                            "Authenticate", "Authentication status :Failed"));
+    EXPECT_THAT(host.logged(), ElementsAre("Copy: " + folder + " -> " + none,
+                                           "Running as user: /usr/bin/ditto -rsrcFork " + folder +
+                                               " " + none + " Result: 1",
+                                           "Authenticate", "Authentication status :Failed"));
 }
 
 TEST_F(FileOperationsTest, AnAdministratorRunThatCanNotStartFails) {
@@ -179,8 +175,9 @@ struct AliasTest : FileOperationsTest {
 TEST_F(AliasTest, AnAliasTakesTheTargetsTypeAndCreatorAndTheAliasFlagOnly) {
     EXPECT_TRUE(controller.makeAliasTarget(file, alias));
     EXPECT_FALSE(host.finderFiles.aliases.at(alias).empty());
-    EXPECT_EQ(host.finderFiles.items.at(alias),
-              (ports::FinderInformation{.type = 0x54455854, .creator = 0x41424344, .flags = 0x8000}));
+    EXPECT_EQ(
+        host.finderFiles.items.at(alias),
+        (ports::FinderInformation{.type = 0x54455854, .creator = 0x41424344, .flags = 0x8000}));
     EXPECT_THAT(host.logged(), IsEmpty());
 }
 
@@ -200,14 +197,14 @@ TEST_F(AliasTest, AMissingTargetOrParentFailsWithItsErrorCode) {
 }
 
 TEST_F(AliasTest, EveryFailingStepIsLoggedWithItsErrorCode) {
-    for (const std::string step : {"finderInformation", "createAliasFile", "setFinderInformation"}) {
+    for (const std::string step :
+         {"finderInformation", "createAliasFile", "setFinderInformation"}) {
         host.finderFiles.errors = {{step, -61}};
         host.finderFiles.items.erase(alias);
         EXPECT_FALSE(controller.makeAliasTarget(file, alias)) << step;
     }
     EXPECT_EQ(host.logged().size(), 3u);
-    EXPECT_EQ(host.logged()[2],
-              "makeAliasTarget: [" + file + "] [" + alias + "] Error code: -61");
+    EXPECT_EQ(host.logged()[2], "makeAliasTarget: [" + file + "] [" + alias + "] Error code: -61");
 }
 
 } // namespace

@@ -20,7 +20,9 @@ TEST(LogText, ArgumentsAreJoinedWithOneBlank) {
     EXPECT_EQ(joined(List{}), "");
 }
 
-TEST(LogText, AnEmptyListIsTwoParenthesesOnTwoLines) { EXPECT_EQ(listDescription(List{}), "(\n)"); }
+TEST(LogText, AnEmptyListIsTwoParenthesesOnTwoLines) {
+    EXPECT_EQ(listDescription(List{}), "(\n)");
+}
 
 TEST(LogText, ElementsStandOnLinesOfTheirOwnWithCommas) {
     EXPECT_EQ(listDescription(List{"one", "two"}), "(\n    one,\n    two\n)");

@@ -51,11 +51,10 @@ TEST_F(InstallLogTest, AResultKeepsTheBlankBeforeItsColon) {
 TEST_F(InstallLogTest, EveryOpModeHasItsNameAndZeroAndFourAreInvalid) {
     for (const int mode : {1, 2, 3, 0, 4})
         log.logInstall("Penmark", static_cast<ec::OpMode>(mode));
-    EXPECT_THAT(host.logged(), ElementsAre("State: Penmark Mode: mode_check",
-                                           "State: Penmark Mode: mode_copy",
-                                           "State: Penmark Mode: mode_remove",
-                                           "State: Penmark Mode: mode_invalid",
-                                           "State: Penmark Mode: mode_invalid"));
+    EXPECT_THAT(host.logged(),
+                ElementsAre("State: Penmark Mode: mode_check", "State: Penmark Mode: mode_copy",
+                            "State: Penmark Mode: mode_remove", "State: Penmark Mode: mode_invalid",
+                            "State: Penmark Mode: mode_invalid"));
 }
 
 TEST_F(InstallLogTest, AnInstallLineShowsTheComponentAtOnce) {
@@ -146,8 +145,7 @@ TEST(InstallLogOnDisk, AMissingLogsFolderIsNotMade) {
     log.logMessage("second");
     std::ostringstream text;
     text << std::ifstream(home / "Library/Logs/Scrivel 21 Stub Install.log").rdbuf();
-    EXPECT_EQ(text.str(),
-              "2024-02-03 04:05:06 +0000 first\n2024-02-03 04:05:06 +0000 second\n");
+    EXPECT_EQ(text.str(), "2024-02-03 04:05:06 +0000 first\n2024-02-03 04:05:06 +0000 second\n");
     std::filesystem::remove_all(home);
 }
 

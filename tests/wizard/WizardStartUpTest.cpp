@@ -72,9 +72,9 @@ TEST_F(WizardStartUpTest, WordRunsWhenItsIdentifierDoes) {
 TEST_F(WizardStartUpTest, ABundlesTextIsAnsweredOrNone) {
     host.bundles.strings[{"/Applications/A.app", "CFBundleShortVersionString"}] = "16.89.1";
     ec::ecController controller(host.host());
-    EXPECT_EQ(controller.getBundleStringForPath("/Applications/A.app",
-                                                "CFBundleShortVersionString"),
-              "16.89.1");
+    EXPECT_EQ(
+        controller.getBundleStringForPath("/Applications/A.app", "CFBundleShortVersionString"),
+        "16.89.1");
     EXPECT_EQ(controller.getBundleStringForPath("/Applications/A.app", "Other"), std::nullopt);
 }
 
