@@ -57,6 +57,7 @@ ParsedCommandLine parseCommandLine(std::vector<std::string> arguments,
     for (const OptionRow& row : kOptions) {
         CLI::Option* option = targets.at(row.name)(std::string(row.name));
         option->description(std::string(row.help));
+        option->multi_option_policy(CLI::MultiOptionPolicy::TakeLast);
         if (!row.argument.empty())
             option->type_name(std::string(row.argument));
     }

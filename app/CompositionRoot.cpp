@@ -141,6 +141,7 @@ void Run::watch(ScrivelInstaller& installer) {
     };
 }
 
+// The order is the order in which the codes are given where several hold.
 ExitCode Run::outcome(std::string& reason) {
     if (const auto& failure = m_driver.failure()) {
         reason = *failure;

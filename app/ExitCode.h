@@ -1,10 +1,7 @@
 // The exit status of the process: truthful, whatever the flow's own codes say. Scripts rely on the
-// numbers.
+// numbers. Where several hold, the first of usage, unfollowed, appsRunning, cancelled, refused,
+// failed is given.
 #pragma once
-
-#include <algorithm>
-#include <array>
-#include <initializer_list>
 
 namespace app {
 
@@ -17,15 +14,5 @@ enum class ExitCode : int {
     refused = 5,     ///< administrator rights were needed and refused
     appsRunning = 6, ///< the session ended at the question about running applications
 };
-
-/// Of several that hold, the one that is reported.
-constexpr ExitCode mostTelling(std::initializer_list<ExitCode> holding) {
-    constexpr std::array kOrder{ExitCode::usage,     ExitCode::unfollowed, ExitCode::appsRunning,
-                                ExitCode::cancelled, ExitCode::refused,    ExitCode::failed};
-    for (const ExitCode code : kOrder)
-        if (std::ranges::find(holding, code) != holding.end())
-            return code;
-    return ExitCode::done;
-}
 
 } // namespace app

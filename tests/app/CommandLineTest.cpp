@@ -5,7 +5,6 @@
 #include <gmock/gmock.h>
 #include <gtest/gtest.h>
 
-#include "app/ExitCode.h"
 #include "app/OptionTable.h"
 
 namespace {
@@ -23,7 +22,7 @@ TEST(CommandLine, WithoutArgumentsTheWindowInstallsOnThisMachine) {
 }
 
 TEST(CommandLine, OptionsMayStandBeforeAndBehindTheCommand) {
-    for (const std::vector<std::string> words :
+    for (const std::vector<std::string>& words :
          {std::vector<std::string>{"--yes", "install", "--root", "/r"},
           std::vector<std::string>{"install", "--root", "/r", "--yes"}}) {
         const auto parsed = parseCommandLine(words, "/h");
@@ -45,7 +44,7 @@ TEST(CommandLine, AnAnswersFileImpliesAnUnattendedRun) {
 }
 
 TEST(CommandLine, WrongWordsAreWrongUsageWithAHintToHelp) {
-    for (const std::vector<std::string> words :
+    for (const std::vector<std::string>& words :
          {std::vector<std::string>{"--nothing"}, std::vector<std::string>{"uninstall"},
           std::vector<std::string>{"--root"}, std::vector<std::string>{"--wait-for-apps", "-1"},
           std::vector<std::string>{"install", "install"}}) {
@@ -63,18 +62,6 @@ TEST(CommandLine, HelpNamesEveryOptionAndCommandOfTheTable) {
         EXPECT_THAT(parsed.output, HasSubstr(std::string(row.name)));
     for (const auto& row : app::kCommands)
         EXPECT_THAT(parsed.output, HasSubstr(std::string(row.name)));
-}
-
-TEST(ExitCode, OfSeveralTheMostTellingIsGiven) {
-    using app::ExitCode;
-    EXPECT_EQ(app::mostTelling({}), ExitCode::done);
-    EXPECT_EQ(app::mostTelling({ExitCode::failed, ExitCode::refused}), ExitCode::refused);
-    EXPECT_EQ(app::mostTelling({ExitCode::refused, ExitCode::cancelled}), ExitCode::cancelled);
-    EXPECT_EQ(app::mostTelling({ExitCode::cancelled, ExitCode::appsRunning}),
-              ExitCode::appsRunning);
-    EXPECT_EQ(app::mostTelling({ExitCode::appsRunning, ExitCode::unfollowed}),
-              ExitCode::unfollowed);
-    EXPECT_EQ(app::mostTelling({ExitCode::unfollowed, ExitCode::usage}), ExitCode::usage);
 }
 
 } // namespace

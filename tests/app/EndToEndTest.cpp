@@ -333,7 +333,7 @@ TEST_F(EndToEnd, AFileAtTheDestinationIsNoQuestionButAFailure) {
 }
 
 TEST_F(EndToEnd, ATemporaryFolderThatIsMissingFailsWithoutACrash) {
-    environment = "TMPDIR=/nowhere/at/all ";
+    environment = "TMPDIR=/proc/none "; // where not even root can make a folder
     const Result result = run("install --unattended --no-launch");
     EXPECT_EQ(result.exit, 4);
     EXPECT_THAT(result.error, HasSubstr("Error installing Scrivel:"));
