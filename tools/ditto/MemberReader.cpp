@@ -3,8 +3,8 @@
 #include <algorithm>
 #include <new>
 
+#include <isa-l/igzip_lib.h>
 #include <libdeflate.h>
-#include <zlib.h>
 
 namespace tools {
 
@@ -20,22 +20,6 @@ constexpr std::size_t kPiece = 256 * 1024;
 [[noreturn]] void unreadable() {
     throw DamagedMember("the archive can't be read here");
 }
-
-class Inflater {
-  public:
-    Inflater() {
-        if (inflateInit2(&m_stream, -MAX_WBITS) != Z_OK)
-            throw std::bad_alloc();
-    }
-    ~Inflater() { inflateEnd(&m_stream); }
-    Inflater(const Inflater&) = delete;
-    Inflater& operator=(const Inflater&) = delete;
-
-    z_stream& stream() { return m_stream; }
-
-  private:
-    z_stream m_stream{};
-};
 
 } // namespace
 
@@ -117,29 +101,34 @@ void MemberReader::streamStored(const formats::ZipMember& member, std::uint64_t 
 
 void MemberReader::streamDeflated(const formats::ZipMember& member, std::uint64_t at,
                                   const Sink& sink) {
-    Inflater inflater;
-    z_stream& stream = inflater.stream();
+    if (!m_stream)
+        m_stream = std::make_unique<inflate_state>();
+    inflate_state& stream = *m_stream;
+    isal_inflate_init(&stream);
     if (m_unpacked.size() < kPiece)
         m_unpacked.resize(kPiece);
     std::uint64_t packedLeft = member.packedSize;
     std::uint64_t left = member.size;
     std::uint32_t crc = 0;
-    for (int result = Z_OK; result != Z_STREAM_END;) {
+    while (stream.block_state != ISAL_BLOCK_FINISH) {
         if (stream.avail_in == 0 && packedLeft > 0) {
             const auto length =
                 static_cast<std::size_t>(std::min<std::uint64_t>(packedLeft, kWindow));
             const auto packed = window(at, length);
-            stream.next_in = reinterpret_cast<Bytef*>(const_cast<std::byte*>(packed.data()));
-            stream.avail_in = static_cast<uInt>(length);
+            // The library only reads there.
+            stream.next_in = reinterpret_cast<std::uint8_t*>(const_cast<std::byte*>(packed.data()));
+            stream.avail_in = static_cast<std::uint32_t>(length);
             at += length;
             packedLeft -= length;
         }
-        stream.next_out = reinterpret_cast<Bytef*>(m_unpacked.data());
+        stream.next_out = reinterpret_cast<std::uint8_t*>(m_unpacked.data());
         stream.avail_out = kPiece;
-        result = inflate(&stream, Z_NO_FLUSH);
+        const std::uint32_t before = stream.avail_in;
+        const int result = isal_inflate(&stream);
         const std::size_t got = kPiece - stream.avail_out;
-        // Z_BUF_ERROR: nothing more to read, and the stream has not ended.
-        if ((result != Z_OK && result != Z_STREAM_END) || got > left)
+        const bool isStuck = got == 0 && stream.avail_in == before;
+        if (result != ISAL_DECOMP_OK || got > left ||
+            (isStuck && stream.block_state != ISAL_BLOCK_FINISH))
             damaged();
         const auto bytes = std::span<const std::byte>(m_unpacked).first(got);
         crc = libdeflate_crc32(crc, bytes.data(), got);

@@ -1,0 +1,1 @@
+scrivel_fuzz(fuzz_zip FuzzZip.cpp LINKS scrivel_zip)

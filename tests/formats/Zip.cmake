@@ -1,0 +1,7 @@
+scrivel_test(zip_test
+    ZipDirectoryTest.cpp
+    ZipNamesTest.cpp
+    ZipWriterTest.cpp
+    ZipInTests.h
+    LINKS scrivel_zip
+)
