@@ -1,7 +1,8 @@
 #include "platform/posix/ThreadQueues.h"
 
 #include <cerrno>
-#include <future>
+#include <condition_variable>
+#include <exception>
 #include <memory>
 #include <stdexcept>
 #include <utility>
@@ -27,6 +28,57 @@ void lower(const Pipe& wake) {
     }
 }
 
+/// What a thread waits for in `sync`. The exception changes hands whole: the main thread has let go
+/// of it when the waiting thread takes it.
+class Outcome {
+  public:
+    void tell(std::exception_ptr error) {
+        const std::lock_guard lock(m_mutex);
+        m_isKnown = true;
+        m_error = std::move(error);
+        m_known.notify_one();
+    }
+    std::exception_ptr wait() {
+        std::unique_lock lock(m_mutex);
+        m_known.wait(lock, [this] { return m_isKnown; });
+        return std::move(m_error);
+    }
+
+  private:
+    std::mutex m_mutex;
+    std::condition_variable m_known;
+    bool m_isKnown = false;
+    std::exception_ptr m_error;
+};
+
+/// Work in the queue that somebody waits for; when it is dropped unrun, it says so.
+class AwaitedWork {
+  public:
+    AwaitedWork(const std::function<void()>& work, std::shared_ptr<Outcome> outcome)
+        : m_work(work), m_outcome(std::move(outcome)) {}
+    AwaitedWork(const AwaitedWork&) = delete;
+    AwaitedWork& operator=(const AwaitedWork&) = delete;
+    ~AwaitedWork() {
+        if (m_outcome)
+            m_outcome->tell(std::make_exception_ptr(
+                ports::PlatformError("The main queue is gone; the work was not done")));
+    }
+
+    void run() {
+        std::exception_ptr error;
+        try {
+            m_work();
+        } catch (...) {
+            error = std::current_exception();
+        }
+        std::exchange(m_outcome, nullptr)->tell(std::move(error));
+    }
+
+  private:
+    const std::function<void()>& m_work;
+    std::shared_ptr<Outcome> m_outcome;
+};
+
 } // namespace
 
 MainQueue::MainQueue() : m_wake(makePipe()) {
@@ -44,10 +96,10 @@ void MainQueue::post(std::function<void()> work) {
 void MainQueue::sync(const std::function<void()>& work) {
     if (isMainThread())
         throw std::logic_error("The main thread can't wait for itself");
-    auto task = std::make_shared<std::packaged_task<void()>>(std::cref(work));
-    std::future<void> done = task->get_future();
-    post([task = std::move(task)] { (*task)(); });
-    done.get();
+    const auto outcome = std::make_shared<Outcome>();
+    post([awaited = std::make_shared<AwaitedWork>(work, outcome)] { awaited->run(); });
+    if (std::exception_ptr error = outcome->wait())
+        std::rethrow_exception(std::move(error));
 }
 
 std::function<void()> MainQueue::next() {

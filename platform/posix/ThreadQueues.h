@@ -14,7 +14,7 @@
 namespace posix {
 
 /// The thread that makes it is the main thread. Work that stands in it when it dies is dropped; who
-/// waits for such work in `sync` gets an exception.
+/// waits for such work in `sync` gets a PlatformError.
 class MainQueue final : public ports::MainQueue {
   public:
     /// Throws PlatformError when the process has no descriptors left.

@@ -157,7 +157,7 @@ TEST_F(ApplicationsTest, AScriptThatWasCalledByARelativeNameIsFound) {
 TEST_F(ApplicationsTest, AProgramThatOnlyReadsTheExecutableIsNotTheApplication) {
     bundle("S.app", {{"CFBundleIdentifier", "com.example.S"}});
     const std::string script = folder.writeProgram("S.app/Contents/MacOS/S", "#!/bin/sh\n");
-    const Running running("/usr/bin/tail", {"-f", script});
+    const Running running("/usr/bin/tail", {"-fc0", script});
     const std::string process = "/proc/" + std::to_string(running.pid());
     ASSERT_EQ(linuxhost::readProcessLink(process + "/exe"), fs::canonical("/usr/bin/tail"));
     EXPECT_FALSE(applications.isRunning("com.example.S"));

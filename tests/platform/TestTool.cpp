@@ -39,10 +39,12 @@ int leaveBehind(const char* text) {
 
 int descriptors() {
     DIR* folder = ::opendir("/proc/self/fd");
-    while (const dirent* entry = folder ? ::readdir(folder) : nullptr)
+    if (!folder)
+        return 1;
+    while (const dirent* entry = ::readdir(folder))
         if (entry->d_name[0] != '.' && std::atoi(entry->d_name) != ::dirfd(folder))
             std::printf("%s ", entry->d_name);
-    return 0;
+    return ::closedir(folder);
 }
 
 int signals() {

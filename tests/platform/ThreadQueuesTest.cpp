@@ -11,6 +11,8 @@
 #include <thread>
 #include <vector>
 
+#include "platform/ports/PlatformError.h"
+
 namespace {
 
 using posix::BackgroundQueue;
@@ -93,7 +95,7 @@ TEST(MainQueue, WhoWaitsForAQueueThatDiesIsReleased) {
     auto queue = std::make_unique<MainQueue>();
     std::atomic<bool> released = false;
     std::thread waiting([&, raw = queue.get()] {
-        EXPECT_ANY_THROW(raw->sync([] {}));
+        EXPECT_THROW(raw->sync([] {}), ports::PlatformError);
         released = true;
     });
     pollfd pending{queue->descriptor(), POLLIN, 0};
