@@ -10,17 +10,17 @@ namespace ui {
 namespace {
 
 struct Appearance {
-    QRgb window, base, alternate, text, secondary, disabled, button, line, accent;
+    QRgb window, base, alternate, text, secondary, disabled, button, line, accent, light;
 };
 
 constexpr Appearance kLight{0xfff4f5f7, 0xffffffff, 0xfff7f8fa, 0xff1d1f23, 0xff5c616a,
-                            0xff9a9ea6, 0xffffffff, 0xffc9ccd2, 0xff0071b3};
+                            0xff9a9ea6, 0xffffffff, 0xffc9ccd2, 0xff0071b3, 0xff0a84cc};
 constexpr Appearance kDark{0xff26282c, 0xff1e2023, 0xff24262a, 0xffe6e7ea, 0xffa3a8b1,
-                           0xff7b7f87, 0xff383b41, 0xff4a4e56, 0xff2478bd};
+                           0xff7b7f87, 0xff383b41, 0xff4a4e56, 0xff2478bd, 0xff4aa6e8};
 
 // Rest, hover, pressed, border.
 using FaceRow = std::array<QRgb, 4>;
-constexpr FaceRow kAccentTint{0xff8fcdf6, 0xffa3d7f9, 0xff76bceb, 0xff4f9fd2};
+constexpr FaceRow kAccentTint{0xff80c6f5, 0xff97d1f8, 0xff68b4e8, 0xff4398cf};
 constexpr FaceRow kWhite{0xffffffff, 0xfff3f4f6, 0xffe4e6ea, 0xffc9ccd2};
 constexpr FaceRow kSilver{0xffd3d6db, 0xffdfe2e6, 0xffbfc3c9, 0xffd3d6db};
 constexpr FaceRow kNearBlack{0xff17191c, 0xff24272b, 0xff0e0f11, 0xff4a4e56};
@@ -62,7 +62,7 @@ QPalette paletteFor(bool dark) {
         {QPalette::Midlight, c.button},  {QPalette::Light, c.button},
         {QPalette::Shadow, 0xff000000},  {QPalette::ToolTipBase, c.base},
         {QPalette::ToolTipText, c.text}, {QPalette::PlaceholderText, c.secondary},
-        {QPalette::Link, c.accent},
+        {QPalette::Link, c.light},
     };
     QPalette palette;
     for (const auto& [role, colour] : roles)

@@ -16,8 +16,8 @@ double contrast(const QColor& one, const QColor& other);
 
 QColor toQColor(const controls::Colour& colour);
 
-/// Every role of the appearance. `Highlight` is the accent, `Mid` the colour of lines,
-/// `PlaceholderText` that of secondary text.
+/// Every role of the appearance. `Highlight` is the accent under white text, `Link` the one that
+/// stands alone (progress), `Mid` the colour of lines, `PlaceholderText` that of secondary text.
 QPalette paletteFor(bool dark);
 
 /// The faces of a button.

@@ -108,7 +108,7 @@ void ProgressBar::paintEvent(QPaintEvent*) {
     }
     QPainterPath light;
     light.addRoundedRect(done, kHeight / 2.0, kHeight / 2.0);
-    painter.fillPath(light, palette().color(QPalette::Active, QPalette::Highlight));
+    painter.fillPath(light, palette().color(QPalette::Active, QPalette::Link));
 }
 
 } // namespace ui

@@ -8,6 +8,7 @@
 #include <QLabel>
 #include <QPainter>
 #include <QPushButton>
+#include <QRegularExpression>
 #include <QScreen>
 
 #include "ui/AlertIcon.h"
@@ -23,21 +24,47 @@ constexpr int kSignSize = 52;
 constexpr int kTextWidth = 372;
 constexpr int kGap = 8;
 
-/// Lies over the window's content while a sheet hangs there.
+/// Lies over the window's content while a sheet hangs there, and takes the sheet's shadow.
 class Shade final : public QWidget {
   public:
-    explicit Shade(QWidget& window) : QWidget(&window) {
+    Shade(QWidget& window, const QRect& sheet) : QWidget(&window), m_sheet(sheet) {
         setGeometry(window.rect());
         show();
         raise();
     }
 
   protected:
-    void paintEvent(QPaintEvent*) override { QPainter(this).fillRect(rect(), QColor(0, 0, 0, 90)); }
+    void paintEvent(QPaintEvent*) override {
+        QPainter painter(this);
+        painter.setRenderHint(QPainter::Antialiasing);
+        painter.fillRect(rect(), QColor(0, 0, 0, kShade));
+        painter.setPen(Qt::NoPen);
+        painter.setBrush(QColor(0, 0, 0, kShadow));
+        for (int reach = kShadowReach; reach > 0; reach -= 2)
+            painter.drawRoundedRect(QRect(m_sheet.left() - reach, -kShadowReach,
+                                          m_sheet.width() + 2 * reach,
+                                          m_sheet.height() + kShadowReach + kShadowDrop + reach),
+                                    reach + 2, reach + 2);
+    }
+
+  private:
+    static constexpr int kShade = 72; // opacity, of 255
+    static constexpr int kShadow = 7;
+    static constexpr int kShadowReach = 18;
+    static constexpr int kShadowDrop = 4;
+
+    QRect m_sheet;
 };
 
+/// A line must not break between a path's first slash and its name.
+QString withWholePaths(QString text) {
+    static const QRegularExpression firstSlash("(^|\\s)/(?=\\S)");
+    return text.replace(firstSlash, QStringLiteral("\\1/\u2060"));
+}
+
 QLabel* paragraph(const std::string& text, const char* style) {
-    auto* label = new QLabel(QString::fromStdString(text));
+    auto* label = new QLabel(withWholePaths(QString::fromStdString(text)));
+    label->setAccessibleName(QString::fromStdString(text));
     label->setProperty(kLook, style);
     label->setTextFormat(Qt::PlainText);
     label->setWordWrap(true);
@@ -50,8 +77,8 @@ QLabel* paragraph(const std::string& text, const char* style) {
 SheetDialog::SheetDialog(const ports::Alert& alert, QWidget* parent,
                          std::function<void(int)> answered)
     : QDialog(parent, parent ? Qt::Sheet | Qt::FramelessWindowHint : Qt::Dialog),
-      m_answered(std::move(answered)),
-      m_escapeButton(static_cast<int>(alert.escapeButton.value_or(std::max<std::size_t>(alert.buttons.size(), 1) - 1))) {
+      m_answered(std::move(answered)), m_escapeButton(static_cast<int>(alert.escapeButton.value_or(
+                                           std::max<std::size_t>(alert.buttons.size(), 1) - 1))) {
     setWindowModality(parent ? Qt::WindowModal : Qt::ApplicationModal);
     if (parent) {
         setWindowTitle(parent->windowTitle());
@@ -122,9 +149,10 @@ void SheetDialog::answer(int index) {
 void SheetDialog::showEvent(QShowEvent* event) {
     adjustSize();
     if (parentWidget()) {
-        const QWidget& window = *parentWidget();
-        move(window.mapToGlobal(QPoint((window.width() - width()) / 2, 0)));
-        m_shade = new Shade(*parentWidget());
+        QWidget& window = *parentWidget();
+        const QPoint topLeft((window.width() - width()) / 2, 0);
+        move(window.mapToGlobal(topLeft));
+        m_shade = new Shade(window, QRect(topLeft, size()));
     }
     QDialog::showEvent(event);
 }

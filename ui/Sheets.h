@@ -28,7 +28,7 @@ class Sheets final : public ports::AlertSheets {
 
     const UiFiles& m_files;
     std::vector<QPointer<SheetDialog>> m_open; // their windows may take them along
-    QObject m_context; // what is queued for us dies with it
+    QObject m_context;                         // what is queued for us dies with it
 };
 
 } // namespace ui

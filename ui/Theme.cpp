@@ -134,7 +134,7 @@ QSize Theme::sizeFromContents(ContentsType type, const QStyleOption* option, con
                               const QWidget* widget) const {
     const QSize plain = QProxyStyle::sizeFromContents(type, option, size, widget);
     if (type == CT_PushButton)
-        return plain.expandedTo({plain.width() + 12, kButtonHeight}).expandedTo({kButtonWidth, 0});
+        return plain.expandedTo({plain.width() + 20, kButtonHeight}).expandedTo({kButtonWidth, 0});
     if (type == CT_LineEdit)
         return plain.expandedTo({0, kButtonHeight});
     return plain;

@@ -4,16 +4,23 @@
 #include <plist/plist.h>
 #include <unistd.h>
 
+#include <cstdio>
 #include <cstdlib>
 #include <exception>
 #include <future>
 #include <stdexcept>
 
+#include <gmock/gmock.h>
+
 #include <QApplication>
+#include <QDialog>
 #include <QDir>
 #include <QFile>
 #include <QPainter>
+#include <QTest>
 #include <QWidget>
+
+#include "ui/SheetDialog.h"
 
 namespace stage {
 
@@ -171,9 +178,73 @@ QImage pictureOf(const QWidget& window) {
     QPainter painter(&screen);
     for (QWidget* other : QApplication::topLevelWidgets())
         if (other->isVisible() && other->parentWidget() == &window)
-            painter.drawPixmap(other->pos() - window.pos(), other->grab());
+            painter.drawPixmap(other->geometry().topLeft() - window.geometry().topLeft(),
+                               other->grab());
     painter.end();
     return screen.toImage();
+}
+
+namespace {
+
+class FrontEnvironment final : public testing::Environment {
+  public:
+    FrontEnvironment(int& argc, char** argv) : m_argc(argc), m_argv(argv) {}
+    void SetUp() override { s_front = std::make_unique<Front>(m_argc, m_argv); }
+    void TearDown() override { s_front.reset(); }
+
+    static std::unique_ptr<Front> s_front;
+
+  private:
+    int& m_argc;
+    char** m_argv;
+};
+
+std::unique_ptr<Front> FrontEnvironment::s_front;
+
+void dropOffscreenComplaints(QtMsgType type, const QMessageLogContext& context,
+                             const QString& message) {
+    if (!message.startsWith("This plugin does not support"))
+        std::fprintf(stderr, "%s\n", qPrintable(qFormatLogMessage(type, context, message)));
+}
+
+} // namespace
+
+Front::Front(int& argc, char** argv)
+    : frontEnd({.argc = argc,
+                .argv = argv,
+                .resourceFolder = resources.folder(),
+                .texts = texts,
+                .mainQueueDescriptor = queue.descriptor(),
+                .runPending = [this] { queue.runPending(); },
+                .dark = false}) {}
+
+Front& front() {
+    return *FrontEnvironment::s_front;
+}
+
+int runTests(int argc, char** argv) {
+    qInstallMessageHandler(dropOffscreenComplaints);
+    testing::InitGoogleMock(&argc, argv);
+    testing::AddGlobalTestEnvironment(new FrontEnvironment(argc, argv));
+    return RUN_ALL_TESTS();
+}
+
+QDialog* dialogOnScreen() {
+    for (QWidget* widget : QApplication::topLevelWidgets())
+        if (widget->objectName() == "window" && widget->isVisible())
+            return qobject_cast<QDialog*>(widget);
+    return nullptr;
+}
+
+ui::SheetDialog* sheetOnScreen() {
+    for (QWidget* widget : QApplication::topLevelWidgets())
+        if (auto* sheet = dynamic_cast<ui::SheetDialog*>(widget); sheet && sheet->isVisible())
+            return sheet;
+    return nullptr;
+}
+
+bool waitUntil(const std::function<bool()>& condition) {
+    return QTest::qWaitFor(condition, 10'000);
 }
 
 } // namespace stage

@@ -18,6 +18,13 @@
 #include "platform/ports/FrontEnd.h"
 #include "platform/ports/LocalizedTexts.h"
 #include "platform/ports/Queues.h"
+#include "ui/GuiFrontEnd.h"
+
+class QDialog;
+
+namespace ui {
+class SheetDialog;
+} // namespace ui
 
 namespace stage {
 
@@ -89,5 +96,28 @@ ports::Alert unableAlert(const ports::LocalizedTexts& texts);
 
 /// The window with the sheets that hang on it, as the screen would show them.
 QImage pictureOf(const QWidget& window);
+
+/// The front end of a test program, light and in English; one in a process.
+struct Front {
+    Front(int& argc, char** argv);
+
+    Resources resources;
+    TableTexts texts{"en"};
+    PipeQueue queue;
+    ui::GuiFrontEnd frontEnd;
+};
+
+Front& front();
+
+/// The main function of a test program: makes the front end when a test is to run.
+int runTests(int argc, char** argv);
+
+/// The installer window in sight, or null.
+QDialog* dialogOnScreen();
+/// The sheet in sight, or null.
+ui::SheetDialog* sheetOnScreen();
+
+/// Serves events until the condition holds; false when it does not within ten seconds.
+bool waitUntil(const std::function<bool()>& condition);
 
 } // namespace stage

@@ -34,13 +34,6 @@ void letPaint(int milliseconds) {
         QApplication::processEvents(QEventLoop::WaitForMoreEvents | QEventLoop::AllEvents, 10);
 }
 
-QWidget* windowOnScreen() {
-    for (QWidget* widget : QApplication::topLevelWidgets())
-        if (widget->objectName() == "window" && widget->isVisible())
-            return widget;
-    return nullptr;
-}
-
 class PaintWatch final : public QObject {
   public:
     bool eventFilter(QObject*, QEvent* event) override {
@@ -120,7 +113,7 @@ int main(int argc, char** argv) {
         const QString file = QString::fromLocal8Bit(argv[1]) + '/' + scene.name +
                              QString::fromStdString(suffix) + (dark ? "-dark" : "-light") +
                              (qApp->devicePixelRatio() > 1 ? "-2x.png" : ".png");
-        if (!stage::pictureOf(*windowOnScreen()).save(file))
+        if (!stage::pictureOf(*stage::dialogOnScreen()).save(file))
             return 1;
     }
     return 0;

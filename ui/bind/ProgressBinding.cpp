@@ -60,6 +60,8 @@ void ProgressBinding::mirror(const controls::Progress& progress) {
     if (m_needs.caption) {
         const bool counts = progress.isRunning() && !progress.isHidden();
         m_needs.caption->setText(counts ? captionFor(amount, m_needs.texts) : QString());
+        // empty it keeps its place, so that nothing moves when counting begins
+        m_needs.caption->setVisible(!progress.isHidden());
     }
 }
 

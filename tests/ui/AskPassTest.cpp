@@ -1,0 +1,33 @@
+#include <gmock/gmock.h>
+
+#include <QProcess>
+
+namespace {
+
+struct Answer {
+    int exit;
+    QByteArray output;
+    bool operator==(const Answer&) const = default;
+};
+
+Answer ask(const QStringList& arguments) {
+    QProcess helper;
+    helper.start(SCRIVEL_ASKPASS_DRIVER, arguments);
+    EXPECT_TRUE(helper.waitForFinished());
+    EXPECT_EQ(helper.exitStatus(), QProcess::NormalExit);
+    return {helper.exitCode(), helper.readAllStandardOutput()};
+}
+
+} // namespace
+
+TEST(AskPass, PrintsThePasswordAndALineFeed) {
+    EXPECT_EQ(ask({"Password for root:", "open sesame"}), (Answer{0, "open sesame\n"}));
+}
+
+TEST(AskPass, PrintsAnEmptyPasswordAsAnEmptyLine) {
+    EXPECT_EQ(ask({"Password for root:", ""}), (Answer{0, "\n"}));
+}
+
+TEST(AskPass, PrintsNothingWhenCanceled) {
+    EXPECT_EQ(ask({"Password for root:"}), (Answer{1, ""}));
+}
