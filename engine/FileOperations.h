@@ -25,7 +25,8 @@ class FileOperations {
     FileOperations(const FileOperations&) = delete;
     FileOperations& operator=(const FileOperations&) = delete;
 
-    /// `removeFile:` unlocks the file or the whole folder and removes it. 0 when nothing is there.
+    /// `removeFile:` unlocks the file or the whole folder and removes it. 0 when nothing is there;
+    /// as the platform looks through links, a link that leads nowhere counts as nothing.
     ExitStatus removeFile(OptionalText path);
     /// `renameFile:toFile:` moves `source` to the path `destination`.
     ExitStatus renameFile(OptionalText source, OptionalText destination);

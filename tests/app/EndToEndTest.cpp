@@ -347,6 +347,25 @@ TEST_F(EndToEnd, AKilledDittoFailsTruthfully) {
     EXPECT_EQ(logged()[1].substr(logged()[1].rfind(' ')), " ERROR");
 }
 
+TEST_F(EndToEnd, WhatAToolHidesTheLookAtTheDiskFinds) {
+    useSmallProduct();
+    const std::string real = (folder / "ditto.real").string();
+    fs::copy_file(bundle / "Contents/MacOS/ditto", real);
+    replaceTool("ditto", "'" + real + "' \"$@\" && if [ \"$1\" = -rsrcFork ]; then : >\"$3/Read " +
+                             std::string("Me.txt\"; fi"));
+    const Result result = run("install --unattended --no-launch");
+    EXPECT_EQ(result.exit, 4);
+    EXPECT_THAT(result.error, HasSubstr("Read Me.txt"));
+    EXPECT_THAT(logged()[3], HasSubstr("Result: 0"));
+}
+
+TEST_F(EndToEnd, ARootFolderThatIsMissingIsMade) {
+    useSmallProduct();
+    fs::remove_all(root);
+    EXPECT_EQ(run("install --unattended --no-launch").exit, 0);
+    EXPECT_TRUE(fs::is_directory(destination));
+}
+
 TEST_F(EndToEnd, AMissingDittoFailsTruthfully) {
     fs::remove(bundle / "Contents/MacOS/ditto");
     if (fs::exists("/usr/bin/ditto"))
