@@ -63,7 +63,7 @@ bool CDir::create(const CPath& path, bool recursive) {
     const std::wstring& shorter = parent;
     if (shorter.size() >= static_cast<const std::wstring&>(path).size())
         return false;
-    return create(parent, true) && _CNativeDir().create(path);
+    return create(parent, true) && _CNativeDir().create_in_parent(path);
 }
 
 bool CDir::lock(const CPath& path, bool lock, bool recursive) {

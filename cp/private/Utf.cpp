@@ -39,7 +39,7 @@ constexpr bool isContinuation(Byte b) {
 }
 
 // Any one character, anywhere; answers the bytes it took, 0 when it is invalid.
-std::size_t decodeOne(const Byte* p, const Byte* end, wchar_t* to) {
+[[gnu::always_inline]] inline std::size_t decodeOne(const Byte* p, const Byte* end, wchar_t* to) {
     const std::size_t left = static_cast<std::size_t>(end - p);
     const char32_t lead = *p;
     if (lead < 0x80) {
@@ -72,73 +72,85 @@ std::size_t decodeOne(const Byte* p, const Byte* end, wchar_t* to) {
     return 4;
 }
 
-// Up to four two-byte characters from one word, one a 16-bit lane; answers how many of the lanes,
-// from the first on, are valid. All four places of `to` are written.
-std::size_t decodePairs(std::uint64_t word, wchar_t* to) {
+// Four two-byte characters from one word, one a 16-bit lane; false when it doesn't hold four valid
+// ones. All four places of `to` are written.
+bool decodePairs(std::uint64_t word, wchar_t* to) {
     const std::uint64_t shape = (word & 0xC0E0C0E0C0E0C0E0) ^ 0x80C080C080C080C0;
     // A lane whose lead byte has none of these bits holds an overlong form.
     const std::uint64_t bits = (word & 0x001E001E001E001E) + 0x7FFF7FFF7FFF7FFF;
-    const std::uint64_t bad = shape | (~bits & 0x8000800080008000);
     const std::uint64_t lanes = (word & 0x001F001F001F001F) << 6 | (word >> 8 & 0x003F003F003F003F);
     for (unsigned i = 0; i < 4; ++i)
         to[i] = static_cast<wchar_t>(lanes >> 16 * i & 0xFFFF);
-    return bad == 0 ? 4 : static_cast<std::size_t>(std::countr_zero(bad)) / 16;
+    return (shape | (~bits & 0x8000800080008000)) == 0;
 }
 
-// The same for up to two three-byte characters.
-std::size_t decodeTriples(std::uint64_t word, wchar_t* to) {
-    const std::uint64_t shape = (word & 0xC0C0F0C0C0F0) ^ 0x8080E08080E0;
-    std::size_t valid = shape == 0 ? 2 : static_cast<std::size_t>(std::countr_zero(shape)) / 24;
+// The same for two three-byte characters.
+bool decodeTriples(std::uint64_t word, wchar_t* to) {
+    if ((word & 0xC0C0F0C0C0F0) != 0x8080E08080E0)
+        return false;
+    bool valid = true;
     for (unsigned i = 0; i < 2; ++i) {
         const std::uint64_t lane = word >> 24 * i;
-        const char32_t c = static_cast<char32_t>((lane & 0x0F) << 12 | (lane >> 8 & 0x3F) << 6 |
-                                                 (lane >> 16 & 0x3F));
+        const auto c =
+            static_cast<char32_t>((lane & 0x0F) << 12 | (lane >> 2 & 0xFC0) | (lane >> 16 & 0x3F));
         to[i] = static_cast<wchar_t>(c);
-        if (c < 0x800 || (c & 0xF800) == 0xD800)
-            valid = std::min<std::size_t>(valid, i);
+        valid = valid && c >= 0x800 && (c & 0xF800) != 0xD800;
     }
     return valid;
 }
 
+// Fills `to` up to about `full` from `at` on, which moves; null when the text is invalid. The loop
+// works on copies of the pointers, which the compiler can keep in registers.
 struct Decoder {
-    const Byte* from;
-    const Byte* const end;
+    using From = const Byte*;
 
-    // Fills `to` up to about `full`; null when the text is invalid.
-    wchar_t* fill(wchar_t* to, const wchar_t* full) {
-        while (to < full && end - from >= 8) {
+    static wchar_t* fill(From& at, From end, wchar_t* to, const wchar_t* full) {
+        From from = at;
+        while (to < full && end - from >= 12) {
             const std::uint64_t word = load8(from);
-            const std::uint64_t high = word & kHighBits;
-            if (high == 0) {
+            if ((word & kHighBits) == 0) {
                 widen<8>(from, to);
                 from += 8;
                 to += 8;
-                to = plain(to, full);
+                // Text that is ASCII here is often so for long.
+                while (to < full && end - from >= 32 && isAscii32(from)) {
+                    widen<32>(from, to);
+                    from += 32;
+                    to += 32;
+                }
                 continue;
             }
-            const std::size_t ascii = static_cast<std::size_t>(std::countr_zero(high)) / 8;
-            if (ascii != 0) {
-                widen<8>(from, to);
-                from += ascii;
-                to += ascii;
+            // Steps of fixed sizes, also where a part of a word could be taken: the processor then
+            // guesses the next place instead of waiting for it to be worked out.
+            if ((word & 0xE0) == 0xC0 && decodePairs(word, to)) {
+                from += 8;
+                to += 4;
                 continue;
             }
-            std::size_t size = 2;
-            std::size_t count = 0;
-            if ((word & 0xE0) == 0xC0) {
-                count = decodePairs(word, to);
-            } else if ((word & 0xF0) == 0xE0) {
-                size = 3;
-                count = decodeTriples(word, to);
+            if ((word & 0xF0) == 0xE0 && decodeTriples(word, to)) {
+                from += 6;
+                to += 2;
+                continue;
             }
-            if (count == 0) {
-                count = 1;
-                size = decodeOne(from, end, to);
-                if (size == 0)
+            // One character after the other up to the end of this word.
+            const From stop = from + 8;
+            do {
+                const std::uint32_t lead = from[0];
+                if (lead < 0x80) {
+                    *to++ = static_cast<wchar_t>(lead);
+                    ++from;
+                } else if (lead >= 0xC2 && lead < 0xE0 && isContinuation(from[1])) {
+                    *to++ = static_cast<wchar_t>((lead & 0x1F) << 6 | (from[1] & 0x3Fu));
+                    from += 2;
+                } else if (const std::size_t size = decodeOne(from, end, to)) {
+                    // A longer one seldom stands alone: look at a word again.
+                    from += size;
+                    ++to;
+                    break;
+                } else {
                     return nullptr;
-            }
-            from += count * size;
-            to += count;
+                }
+            } while (from < stop);
         }
         while (to < full && from != end) {
             const std::size_t size = decodeOne(from, end, to);
@@ -147,48 +159,63 @@ struct Decoder {
             from += size;
             ++to;
         }
+        at = from;
         return to;
     }
 
   private:
-    // A long stretch of ASCII, 32 bytes at a time.
-    wchar_t* plain(wchar_t* to, const wchar_t* full) {
-        while (to < full && end - from >= 32 &&
-               ((load8(from) | load8(from + 8) | load8(from + 16) | load8(from + 24)) &
-                kHighBits) == 0) {
-            widen<32>(from, to);
-            from += 32;
-            to += 32;
-        }
-        return to;
+    static bool isAscii32(From p) {
+        return ((load8(p) | load8(p + 8) | load8(p + 16) | load8(p + 24)) & kHighBits) == 0;
     }
 };
 
+// How many bytes are no continuations: the characters of valid text.
 std::size_t characters(std::string_view text) {
-    return static_cast<std::size_t>(std::count_if(
-        text.begin(), text.end(), [](char c) { return static_cast<signed char>(c) >= -64; }));
+    const auto* bytes = reinterpret_cast<const Byte*>(text.data());
+    std::size_t continuations = 0;
+    std::size_t i = 0;
+    while (text.size() - i >= 8) {
+        // One counter a byte; none can run over in 255 rounds.
+        const std::size_t rounds = std::min<std::size_t>((text.size() - i) / 8, 255);
+        std::uint64_t counters = 0;
+        for (std::size_t round = 0; round < rounds; ++round) {
+            const std::uint64_t word = load8(bytes + i + round * 8);
+            counters += (word >> 7) & (~word >> 6) & 0x0101010101010101;
+        }
+        const std::uint64_t pairs =
+            (counters & 0x00FF00FF00FF00FF) + (counters >> 8 & 0x00FF00FF00FF00FF);
+        continuations += pairs * 0x0001000100010001 >> 48;
+        i += rounds * 8;
+    }
+    for (; i < text.size(); ++i)
+        continuations += isContinuation(bytes[i]);
+    return text.size() - continuations;
 }
 
-// Any one character as UTF-8; answers the bytes written, 0 when it is invalid. Writes four bytes.
-std::size_t encodeOne(char32_t c, char* to) {
+// Any one character as UTF-8; answers the place behind it, null when it is invalid. Writes four
+// bytes.
+[[gnu::always_inline]] inline char* encodeOne(char32_t c, char* to) {
     std::uint32_t bytes = c;
-    std::size_t size = 1;
     if (c < 0x80) {
-    } else if (c < 0x800) {
-        bytes = (0xC0 | c >> 6) | (0x80 | (c & 0x3F)) << 8;
-        size = 2;
-    } else if (!is_scalar_value(c)) {
-        return 0;
-    } else if (c < 0x10000) {
-        bytes = (0xE0 | c >> 12) | (0x80 | (c >> 6 & 0x3F)) << 8 | (0x80 | (c & 0x3F)) << 16;
-        size = 3;
-    } else {
-        bytes = (0xF0 | c >> 18) | (0x80 | (c >> 12 & 0x3F)) << 8 | (0x80 | (c >> 6 & 0x3F)) << 16 |
-                (0x80 | (c & 0x3F)) << 24;
-        size = 4;
+        std::memcpy(to, &bytes, sizeof bytes);
+        return to + 1;
     }
+    if (c < 0x800) {
+        bytes = (0xC0 | c >> 6) | (0x80 | (c & 0x3F)) << 8;
+        std::memcpy(to, &bytes, sizeof bytes);
+        return to + 2;
+    }
+    if (!is_scalar_value(c))
+        return nullptr;
+    if (c < 0x10000) {
+        bytes = (0xE0 | c >> 12) | (0x80 | (c >> 6 & 0x3F)) << 8 | (0x80 | (c & 0x3F)) << 16;
+        std::memcpy(to, &bytes, sizeof bytes);
+        return to + 3;
+    }
+    bytes = (0xF0 | c >> 18) | (0x80 | (c >> 12 & 0x3F)) << 8 | (0x80 | (c >> 6 & 0x3F)) << 16 |
+            (0x80 | (c & 0x3F)) << 24;
     std::memcpy(to, &bytes, sizeof bytes);
-    return size;
+    return to + 4;
 }
 
 // One character below U+0800 without a branch, as text of one alphabet and blanks wants it.
@@ -201,47 +228,72 @@ char* encodeShort(char32_t c, char* to) {
 }
 
 struct Encoder {
-    const wchar_t* from;
-    const wchar_t* const end;
+    using From = const wchar_t*;
 
-    char* fill(char* to, const char* full) {
+    static char* fill(From& at, From end, char* to, const char* full) {
+        From from = at;
         while (to < full && end - from >= 8) {
-            char32_t all = 0;
-            for (std::size_t i = 0; i < 8; ++i)
-                all |= static_cast<char32_t>(from[i]);
-            if (all < 0x80) {
-                for (std::size_t i = 0; i < 8; ++i)
-                    to[i] = static_cast<char>(from[i]);
+            const char32_t bits = all<8>(from);
+            if (bits < 0x80) {
+                narrow<8>(from, to);
+                from += 8;
                 to += 8;
-            } else if (all < 0x800) {
+                while (to < full && end - from >= 16 && all<16>(from) < 0x80) {
+                    narrow<16>(from, to);
+                    from += 16;
+                    to += 16;
+                }
+                continue;
+            }
+            if (bits < 0x800) {
                 for (std::size_t i = 0; i < 8; ++i)
                     to = encodeShort(static_cast<char32_t>(from[i]), to);
-            } else {
-                for (std::size_t i = 0; i < 8; ++i) {
-                    const std::size_t size = encodeOne(static_cast<char32_t>(from[i]), to);
-                    if (size == 0)
-                        return nullptr;
-                    to += size;
-                }
+                from += 8;
+                continue;
+            }
+            for (std::size_t i = 0; i < 8; ++i) {
+                to = encodeOne(static_cast<char32_t>(from[i]), to);
+                if (to == nullptr)
+                    return nullptr;
             }
             from += 8;
         }
         while (to < full && from != end) {
-            const std::size_t size = encodeOne(static_cast<char32_t>(*from), to);
-            if (size == 0)
+            to = encodeOne(static_cast<char32_t>(*from), to);
+            if (to == nullptr)
                 return nullptr;
-            to += size;
             ++from;
         }
+        at = from;
         return to;
+    }
+
+  private:
+    // Every bit that is set in any of the characters.
+    template <std::size_t N>
+    static char32_t all(From from) {
+        char32_t bits = 0;
+        for (std::size_t i = 0; i < N; ++i)
+            bits |= static_cast<char32_t>(from[i]);
+        return bits;
+    }
+
+    // By way of a buffer: stores of single characters could change the input, for all that the
+    // compiler knows.
+    template <std::size_t N>
+    static void narrow(From from, char* to) {
+        unsigned char bytes[N];
+        for (std::size_t i = 0; i < N; ++i)
+            bytes[i] = static_cast<unsigned char>(from[i]);
+        std::memcpy(to, bytes, sizeof bytes);
     }
 };
 
 template <class Coder, class Out>
-bool run(Coder coder, Out& out) {
+bool run(typename Coder::From from, typename Coder::From end, Out& out) {
     typename Out::value_type block[kBlock + kSlack];
-    while (coder.from != coder.end) {
-        const auto* filled = coder.fill(block, block + kBlock);
+    while (from != end) {
+        const auto* filled = Coder::fill(from, end, block, block + kBlock);
         if (filled == nullptr) {
             out.clear();
             return false;
@@ -261,13 +313,13 @@ bool utf8_to_utf32(std::string_view text, std::wstring& out) {
     out.clear();
     out.reserve(characters(text));
     const auto* bytes = reinterpret_cast<const Byte*>(text.data());
-    return run(Decoder{bytes, bytes + text.size()}, out);
+    return run<Decoder>(bytes, bytes + text.size(), out);
 }
 
 bool utf32_to_utf8(std::wstring_view text, std::string& out) {
     out.clear();
     out.reserve(text.size());
-    return run(Encoder{text.data(), text.data() + text.size()}, out);
+    return run<Encoder>(text.data(), text.data() + text.size(), out);
 }
 
 bool utf16_to_utf32(std::u16string_view text, std::wstring& out) {

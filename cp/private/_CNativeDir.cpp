@@ -44,6 +44,11 @@ bool lockTree(const CPath& path, bool lock) {
     return walk_tree(std::move(folder), locking);
 }
 
+// Open to everyone as far as the user's mask allows.
+bool makeFolder(const std::string& path) {
+    return ::mkdir(path.c_str(), S_IRWXU | S_IRWXG | S_IRWXO) == 0;
+}
+
 bool isLink(const CPath& path) {
     const auto text = system_path(path);
     std::error_code error;
@@ -66,7 +71,12 @@ bool _CNativeDir::create(const CPath& path) const {
     CPath name;
     path.get_item(CPath::item_name, name);
     const auto text = system_path(name);
-    return text && ::mkdir((folder.path + "/" + *text).c_str(), S_IRWXU | S_IRWXG | S_IRWXO) == 0;
+    return text && makeFolder(folder.path + "/" + *text);
+}
+
+bool _CNativeDir::create_in_parent(const CPath& path) const {
+    const auto text = system_path(path);
+    return text && makeFolder(*text);
 }
 
 DirectoryLock _CNativeDir::get_native_lock_implementation() const {

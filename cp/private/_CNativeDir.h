@@ -16,6 +16,9 @@ class _CNativeDir {
     [[nodiscard]] bool remove(const CPath& path) const { return _remove_directory(path); }
     /// Throws CException code 0 when the parent doesn't resolve.
     [[nodiscard]] bool create(const CPath& path) const;
+    /// The same where the parent is known to exist; nothing is resolved, so a long chain of new
+    /// folders is made in a time that grows no faster than the lengths of their paths.
+    [[nodiscard]] bool create_in_parent(const CPath& path) const;
     /// The system's recursive lock; null on a system without one.
     [[nodiscard]] DirectoryLock get_native_lock_implementation() const;
 

@@ -34,8 +34,7 @@ TEST_F(Directories, EveryEntryIsGivenOnce) {
     write("b", "");
     write("\xC3\xA9", "");
     std::filesystem::create_symlink("nowhere", at("link"));
-    EXPECT_EQ(entries(CPath(folder.string())),
-              (std::set<std::string>{"a", "b", "\xC3\xA9", "link"}));
+    EXPECT_EQ(entries(top()), (std::set<std::string>{"a", "b", "\xC3\xA9", "link"}));
     EXPECT_TRUE(entries(path("a")).empty());
 }
 
@@ -51,7 +50,7 @@ TEST_F(Directories, WhatIsNoFolderHasNoEntries) {
 TEST_F(Directories, AnIteratorAdvancesByAnyNumberOfEntries) {
     for (const char* name : {"a", "b", "c", "d"})
         write(name, "");
-    CDir dir{CPath(folder.string())};
+    CDir dir{top()};
     auto entry = dir.begin();
     const CPath first = *entry;
     entry._get_next(0);
@@ -72,7 +71,7 @@ TEST_F(Directories, AnIteratorAdvancesByAnyNumberOfEntries) {
 
 TEST_F(Directories, AnIteratorOutlivesItsDirectoryObject) {
     write("a", "");
-    auto entry = CDir(CPath(folder.string())).begin();
+    auto entry = CDir(top()).begin();
     EXPECT_EQ(*entry++, path("a"));
     EXPECT_TRUE(entry == CDir::kEnd);
 }
@@ -81,7 +80,7 @@ TEST_F(Directories, ANameThatIsNotTextIsLeftOut) {
     if (!std::ofstream(at("\xFF")).good())
         GTEST_SKIP() << "no such names here";
     write("a", "");
-    EXPECT_EQ(entries(CPath(folder.string())), std::set<std::string>{"a"});
+    EXPECT_EQ(entries(top()), std::set<std::string>{"a"});
 }
 
 TEST_F(Directories, RecursiveCreationMakesTheMissingParents) {

@@ -87,7 +87,7 @@ TEST_F(FSRefConverter, ALongPathComesBackWhole) {
 
 TEST_F(FSRefConverter, AnOldStyleSpecificationNamesFolderAndFile) {
     write("file", "");
-    CFSRefConverter parent((CPath(folder.string())));
+    CFSRefConverter parent((top()));
     CFSRefConverter converter(path("file"));
     FSSpec spec;
     ASSERT_TRUE(converter.get_fsspec(spec));

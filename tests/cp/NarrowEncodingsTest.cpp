@@ -81,7 +81,8 @@ TEST(NarrowEncodings, SansSerifSignsOfMacSymbolCarryTheVariantTag) {
 TEST(NarrowEncodings, TheLossByteStandsForWhatCannotBeHeld) {
     EXPECT_EQ(encoded(kWindowsLatin1, L"a\u20AC\u4E2D\U0001F600b\u4E2D", '?'), "a\x80??b?");
     EXPECT_EQ(encoded(kMacRoman, L"\u4E2Da\u03A9", '_'), "_a\xBD");
-    EXPECT_EQ(encoded("CP932", L"a\u4E2D\U0001F600\u00E9!", '?'), "a\x92\x86??" "!");
+    EXPECT_EQ(encoded("CP932", L"a\u4E2D\U0001F600\u00E9!", '?'), "a\x92\x86??"
+                                                                  "!");
 }
 
 TEST(NarrowEncodings, TagCharactersAreNotDroppedSilently) {

@@ -26,21 +26,21 @@ std::string picked(const CPath& folder, const char* prefix, unsigned seed) {
 } // namespace
 
 TEST_F(TempFile, CountsDownFromTheSeedPastNamesThatAreTaken) {
-    EXPECT_EQ(picked(path(""), "SV", 0x10), "SV00000010");
+    EXPECT_EQ(picked(top(), "SV", 0x10), "SV00000010");
     write("SV00000010", "");
-    EXPECT_EQ(picked(path(""), "SV", 0x10), "SV0000000f");
+    EXPECT_EQ(picked(top(), "SV", 0x10), "SV0000000f");
     std::filesystem::create_symlink("nowhere", at("SV0000000f"));
-    EXPECT_EQ(picked(path(""), "SV", 0x10), "SV0000000e");
+    EXPECT_EQ(picked(top(), "SV", 0x10), "SV0000000e");
 }
 
 TEST_F(TempFile, GoesOnBelowZero) {
     write("SV00000001", "");
     write("SV00000000", "");
-    EXPECT_EQ(picked(path(""), "SV", 1), "SVffffffff");
+    EXPECT_EQ(picked(top(), "SV", 1), "SVffffffff");
 }
 
 TEST_F(TempFile, WithoutASeedTheNameComesFromTheTime) {
-    const std::string name = picked(path(""), "SV", 0);
+    const std::string name = picked(top(), "SV", 0);
     ASSERT_EQ(name.size(), 10u);
     EXPECT_EQ(name.find_first_not_of("0123456789abcdef", 2), std::string::npos);
 }
@@ -75,27 +75,27 @@ TEST_F(TempFile, GivesUpAfterAThousandNames) {
         std::snprintf(name, sizeof name, "SV%08x", i);
         write(name, "");
     }
-    CPath chosen = path("");
+    CPath chosen = top();
     EXPECT_TRUE(CFileUtils::temp_file(chosen, L"SV", 1000));
-    EXPECT_EQ(chosen, path(""));
-    EXPECT_EQ(picked(path(""), "SV", 1001), "SV000003e9");
+    EXPECT_EQ(chosen, top());
+    EXPECT_EQ(picked(top(), "SV", 1001), "SV000003e9");
 }
 
 TEST_F(TempFile, AnyOtherErrorEndsTheSearch) {
-    CPath chosen = path("");
+    CPath chosen = top();
     EXPECT_TRUE(CFileUtils::temp_file(chosen, std::wstring(300, L'x').c_str(), 1));
-    EXPECT_EQ(chosen, path(""));
+    EXPECT_EQ(chosen, top());
 }
 
 TEST_F(TempFile, ANarrowPrefixIsWindowsLatin1) {
-    CPath chosen = path("");
+    CPath chosen = top();
     EXPECT_TRUE(CFileUtils::temp_file(chosen, "\xC9", 1));
-    EXPECT_EQ(chosen, CPath(path("")).append(L"\u00C9"
-                                             L"00000001"));
-    chosen = path("");
+    EXPECT_EQ(chosen, CPath(top()).append(L"\u00C9"
+                                          L"00000001"));
+    chosen = top();
     EXPECT_FALSE(CFileUtils::temp_file(chosen, "\x81", 1));
 }
 
 TEST_F(TempFile, WithoutAPrefixTheNameIsTheNumber) {
-    EXPECT_EQ(picked(path(""), nullptr, 0x12345678), "12345678");
+    EXPECT_EQ(picked(top(), nullptr, 0x12345678), "12345678");
 }

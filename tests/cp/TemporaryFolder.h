@@ -32,6 +32,8 @@ class TemporaryFolder : public ::testing::Test {
         return Corvaldine::CP::CPath(at(name).string());
     }
 
+    Corvaldine::CP::CPath top() const { return Corvaldine::CP::CPath(folder.string()); }
+
     void write(const std::string& name, const std::string& text) const {
         std::ofstream file(at(name), std::ios::binary);
         file << text;
