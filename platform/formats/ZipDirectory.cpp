@@ -137,10 +137,8 @@ void ZipDirectoryReader::findEnd() {
     m_start = field32(record + 16);
     if (!onOneDisk)
         throw ZipRefusal{"it is part of an archive of several files"};
-    if (m_count == kFull16 || m_length == kFull32 || m_start == kFull32) {
-        readEnd64(end);
-        end = m_at;
-    }
+    readEnd64(end);
+    end = m_at;
     if (m_start > end || end - m_start != m_length)
         throw ZipRefusal{"its directory is not where its end says: bytes are missing or added"};
     m_at = m_start;
@@ -154,7 +152,7 @@ void ZipDirectoryReader::readEnd64(std::uint64_t end) {
         return;
     fill(end - kLocator64Length, locator);
     if (field32(locator) != kLocator64Mark)
-        return; // the large numbers are meant as they stand
+        return; // even numbers at their limit are meant as they stand
     if (field32(locator + 4) != 0 || field32(locator + 16) > 1)
         throw ZipRefusal{"it is part of an archive of several files"};
     const std::uint64_t at = field64(locator + 8);
@@ -166,9 +164,15 @@ void ZipDirectoryReader::readEnd64(std::uint64_t end) {
     if (field32(record + 16) != 0 || field32(record + 20) != 0 ||
         field64(record + 24) != field64(record + 32))
         throw ZipRefusal{"it is part of an archive of several files"};
-    m_count = field64(record + 32);
-    m_length = field64(record + 40);
-    m_start = field64(record + 48);
+    // Some packers write this record where nobody needs it; the old one must agree then.
+    const auto replace = [](std::uint64_t& old, std::uint64_t full, std::uint64_t by) {
+        if (old != full && old != by)
+            throw ZipRefusal{"its two end records disagree"};
+        old = by;
+    };
+    replace(m_count, kFull16, field64(record + 32));
+    replace(m_length, kFull32, field64(record + 40));
+    replace(m_start, kFull32, field64(record + 48));
     m_at = at;
 }
 

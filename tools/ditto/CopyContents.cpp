@@ -1,8 +1,8 @@
 #include "tools/ditto/CopyContents.h"
 
 #include <algorithm>
+#include <array>
 #include <cerrno>
-#include <memory>
 
 #include <fcntl.h>
 #include <linux/fs.h>
@@ -16,7 +16,10 @@ namespace tools {
 namespace {
 
 constexpr std::uint64_t kPieceInKernel = std::uint64_t{8} << 20;
-constexpr std::size_t kBuffer = 256 * 1024;
+constexpr std::size_t kBuffer = 64 * 1024;
+
+// Below this the kernel's copying costs more than reading and writing.
+constexpr std::uint64_t kLeastInKernel = kBuffer;
 
 /// Errors by which a call says that it does not work for these two files at all.
 bool isUnsupported(int error) {
@@ -78,7 +81,7 @@ bool ContentCopier::clone(int from, int to) {
 // A file that shrinks meanwhile is copied as far as it goes.
 void ContentCopier::copyRange(int from, int to, std::uint64_t at, std::uint64_t length,
                               const Told& told) {
-    while (length > 0 && m_canCopyInKernel) {
+    while (length >= (at == 0 ? kLeastInKernel : 1) && m_canCopyInKernel) {
         auto in = static_cast<off_t>(at);
         auto out = static_cast<off_t>(at);
         const auto piece = static_cast<std::size_t>(std::min(length, kPieceInKernel));
@@ -97,18 +100,17 @@ void ContentCopier::copyRange(int from, int to, std::uint64_t at, std::uint64_t 
     }
     if (length == 0)
         return;
-    const auto buffer = std::make_unique_for_overwrite<std::byte[]>(
-        static_cast<std::size_t>(std::min<std::uint64_t>(length, kBuffer)));
+    std::array<std::byte, kBuffer> buffer;
     while (length > 0) {
         const auto piece = static_cast<std::size_t>(std::min<std::uint64_t>(length, kBuffer));
-        const ssize_t got = ::pread(from, buffer.get(), piece, static_cast<off_t>(at));
+        const ssize_t got = ::pread(from, buffer.data(), piece, static_cast<off_t>(at));
         if (got < 0 && errno == EINTR)
             continue;
         if (checked(got) == 0)
             return;
         for (ssize_t put = 0; put < got;) {
             const ssize_t written =
-                ::pwrite(to, buffer.get() + put, static_cast<std::size_t>(got - put),
+                ::pwrite(to, buffer.data() + put, static_cast<std::size_t>(got - put),
                          static_cast<off_t>(at) + put);
             if (written < 0 && errno == EINTR)
                 continue;

@@ -246,14 +246,18 @@ void TreeCopy::copyFile(const Item& item) {
         return;
     mode_t mode = status.st_mode & kPermissions;
     // Nobody else reads or runs it before it has its owner.
-    const bool isOurs = status.st_uid == ::geteuid() && status.st_gid == ::getegid();
+    const bool isOurs = status.st_uid == m_user && status.st_gid == m_group;
     NewFile file(item.toFolder, item.toName, mode & (isOurs ? 0777 : S_IRWXU));
     m_contents.copy(from.number(), status, file.descriptor(),
                     [this](std::uint64_t bytes) { m_needs.progress.add(bytes, 0); });
     const std::vector<std::string> attributes = attributeNames(from.number());
     copyAttributes(from.number(), file.descriptor(), attributes, item);
-    setOwner(file.descriptor(), status, mode);
-    file.setMode(mode);
+    struct stat now{};
+    checked(::fstat(file.descriptor(), &now));
+    setOwner(file.descriptor(), status, now, mode);
+    // A change of owner takes rights away.
+    if ((now.st_mode & kPermissions) != mode || !isOurs)
+        checked(::fchmod(file.descriptor(), mode));
     copyAccessLists(from.number(), file.descriptor(), attributes);
     file.setTimes(status.st_atim, status.st_mtim);
     file.keep();
@@ -268,7 +272,7 @@ void TreeCopy::copyLink(const Item& item, const struct stat& status) {
     makeReplacing(item.toFolder, item.toName, [&](const char* name) {
         return ::symlinkat(target.data(), item.toFolder, name);
     });
-    if (::geteuid() == 0)
+    if (m_isRoot)
         checked(::fchownat(item.toFolder, item.toName, status.st_uid, status.st_gid,
                            AT_SYMLINK_NOFOLLOW));
     const timespec times[2] = {status.st_atim, status.st_mtim};
@@ -280,7 +284,7 @@ void TreeCopy::copySpecial(const Item& item, const struct stat& status) {
     makeReplacing(item.toFolder, item.toName, [&](const char* name) {
         return ::mknodat(item.toFolder, name, status.st_mode, status.st_rdev);
     });
-    if (::geteuid() == 0) {
+    if (m_isRoot) {
         checked(::fchownat(item.toFolder, item.toName, status.st_uid, status.st_gid,
                            AT_SYMLINK_NOFOLLOW));
         checked(::fchmodat(item.toFolder, item.toName, status.st_mode & kPermissions, 0));
@@ -326,7 +330,9 @@ void TreeCopy::finishFolder(const Finish& finish, Worker& worker) {
         mode_t mode = finish.status.st_mode & kPermissions;
         const std::vector<std::string> attributes = attributeNames(from);
         copyAttributes(from, to, attributes, {from, to, nullptr, nullptr, nullptr});
-        setOwner(to, finish.status, mode);
+        struct stat now{};
+        checked(::fstat(to, &now));
+        setOwner(to, finish.status, now, mode);
         checked(::fchmod(to, mode));
         copyAccessLists(from, to, attributes);
         const timespec times[2] = {finish.status.st_atim, finish.status.st_mtim};
@@ -362,14 +368,13 @@ void TreeCopy::copyAttributes(int from, int to, const std::vector<std::string>& 
 }
 
 // Without the right to give files away, the right to run as their owner is not given either.
-void TreeCopy::setOwner(int file, const struct stat& status, mode_t& mode) {
-    struct stat now{};
-    checked(::fstat(file, &now));
+void TreeCopy::setOwner(int file, const struct stat& status, const struct stat& now,
+                        mode_t& mode) const {
     const bool sameUser = now.st_uid == status.st_uid;
     const bool sameGroup = now.st_gid == status.st_gid;
     if (sameUser && sameGroup)
         return;
-    if (::geteuid() == 0) {
+    if (m_isRoot) {
         checked(::fchown(file, status.st_uid, status.st_gid));
         return;
     }

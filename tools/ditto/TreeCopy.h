@@ -87,10 +87,13 @@ class TreeCopy {
     void linkOtherNames(Worker& worker);
     void finishFolder(const Finish& finish, Worker& worker);
     void copyAttributes(int from, int to, const std::vector<std::string>& names, const Item& item);
-    void setOwner(int file, const struct stat& status, mode_t& mode);
+    void setOwner(int file, const struct stat& status, const struct stat& now, mode_t& mode) const;
     std::string pathOf(const Folder* folder, std::string_view name) const;
 
     Needs m_needs;
+    const uid_t m_user = ::geteuid();
+    const gid_t m_group = ::getegid();
+    const bool m_isRoot = m_user == 0;
     ContentCopier m_contents;
     std::string m_destination;
     std::deque<Folder> m_folders; // addresses stay

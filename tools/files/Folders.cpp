@@ -52,19 +52,16 @@ int FolderDescriptors::of(const Folder& folder) {
         known->used = ++m_clock;
         number = known->descriptor.number();
     }
-    Descriptor opened;
+    // Those on the way are kept, too: a tree is mostly walked from a folder to one nearby.
     for (auto next = m_missing.rbegin(); next != m_missing.rend(); ++next) {
-        opened =
-            Descriptor(checked(::openat(number, (*next)->name.c_str(), kOpenFolder | O_NOFOLLOW)));
+        Descriptor opened(
+            checked(::openat(number, (*next)->name.c_str(), kOpenFolder | O_NOFOLLOW)));
         number = opened.number();
-    }
-    if (!opened.isOpen())
-        return number;
-    if (m_open.size() < kMostOpen) {
-        m_open.push_back({&folder, std::move(opened), ++m_clock});
-    } else {
-        auto oldest = std::ranges::min_element(m_open, {}, &Open::used);
-        *oldest = Open{&folder, std::move(opened), ++m_clock};
+        if (m_open.size() < kMostOpen)
+            m_open.push_back({*next, std::move(opened), ++m_clock});
+        else
+            *std::ranges::min_element(m_open, {}, &Open::used) =
+                Open{*next, std::move(opened), ++m_clock};
     }
     return number;
 }
