@@ -10,6 +10,7 @@
 #include <iterator>
 #include <stdexcept>
 #include <string>
+#include <sys/resource.h>
 #include <sys/wait.h>
 #include <thread>
 #include <unistd.h>
@@ -223,6 +224,18 @@ TEST_F(ToolsTest, TheEnvironmentIsInherited) {
     ::setenv("SCRIVEL_TEST_VARIABLE", "seen", 1);
     EXPECT_EQ(tools.capture(call({"environment", "SCRIVEL_TEST_VARIABLE"})).output, "seen");
     ::unsetenv("SCRIVEL_TEST_VARIABLE");
+}
+
+TEST_F(ToolsTest, WithoutDescriptorsLeftACallThatNeedsAPipeFailsAndLeavesNothing) {
+    rlimit before{};
+    ASSERT_EQ(::getrlimit(RLIMIT_NOFILE, &before), 0);
+    const int firstFree = ::dup(STDERR_FILENO);
+    ::close(firstFree);
+    const rlimit none{static_cast<rlim_t>(firstFree), before.rlim_max};
+    ASSERT_EQ(::setrlimit(RLIMIT_NOFILE, &none), 0);
+    EXPECT_THROW((void)tools.capture(call({"print", "x"})), ports::PlatformError);
+    EXPECT_EQ(tools.runThroughPipe(call({"print", "x"}), readAll), SpawnedTools::kCannotStart);
+    ASSERT_EQ(::setrlimit(RLIMIT_NOFILE, &before), 0);
 }
 
 TEST_F(ToolsTest, TenThousandRunsLeaveNoDescriptorAndNoChild) {
