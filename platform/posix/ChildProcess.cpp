@@ -11,11 +11,14 @@
 
 #include "platform/posix/ProcessSystem.h"
 
-extern char** environ;
+extern char** environ; // NOLINT(readability-redundant-declaration): macOS declares it nowhere
 
 namespace posix {
 
 namespace {
+
+/// The status of a child whose own was taken by somebody else.
+constexpr int kLost = 255;
 
 std::string_view nameOf(std::string_view entry) {
     return entry.substr(0, entry.find('='));
@@ -66,7 +69,7 @@ class FileActions {
     posix_spawn_file_actions_t& get() { return m_actions; }
 
   private:
-    posix_spawn_file_actions_t m_actions;
+    posix_spawn_file_actions_t m_actions{};
 };
 
 class Attributes {
@@ -89,7 +92,7 @@ class Attributes {
     posix_spawnattr_t& get() { return m_attributes; }
 
   private:
-    posix_spawnattr_t m_attributes;
+    posix_spawnattr_t m_attributes{};
 };
 
 } // namespace
@@ -121,7 +124,7 @@ bool ChildProcess::collect(int options) {
     if (answer == 0)
         return false;
     if (answer < 0) // somebody else took the status; all that is known is that it is over
-        m_status = 255;
+        m_status = kLost;
     else
         m_status = WIFSIGNALED(status) ? 128 + WTERMSIG(status) : WEXITSTATUS(status);
     return true;
@@ -130,7 +133,7 @@ bool ChildProcess::collect(int options) {
 int ChildProcess::wait() {
     if (!m_status)
         collect(0);
-    return *m_status;
+    return m_status.value_or(kLost);
 }
 
 bool ChildProcess::hasEnded() {

@@ -26,7 +26,7 @@ class SignalsBlocked {
     ~SignalsBlocked() { ::pthread_sigmask(SIG_SETMASK, &m_before, nullptr); }
 
   private:
-    sigset_t m_before;
+    sigset_t m_before{};
 };
 
 /// Writes all of it; closes the descriptor when nobody reads any more.
@@ -48,7 +48,7 @@ class ToTheEnd {
     ToTheEnd(const ToTheEnd&) = delete;
     ToTheEnd& operator=(const ToTheEnd&) = delete;
     ~ToTheEnd() {
-        std::array<char, 4096> rest;
+        std::array<char, 4096> rest{};
         ssize_t count = 0;
         do
             count = ::read(m_reading.number(), rest.data(), rest.size());

@@ -158,8 +158,10 @@ class BinaryOutline {
             return false;
         own.cost = kOverhead;
         const bool isArray = kind == 0xA || kind == 0xB || kind == 0xC;
-        if (isArray || kind == 0xD) {
-            if (!measureBelow(own, at, isArray ? *count : 2 * *count, depth))
+        const bool isDictionary = kind == 0xD;
+        if (isArray || isDictionary) {
+            if (!measureBelow(own, at, isArray ? *count : 2 * *count, depth) ||
+                (isDictionary && !haveGoodKeys(at, *count)))
                 return false;
         } else {
             own.cost += hasLength ? 2 * *count : 0;
@@ -184,6 +186,27 @@ class BinaryOutline {
                 return false;
         }
         own.cost = cost;
+        return true;
+    }
+
+    /// Are the references at `at` strings without a zero in them? The library takes a key with
+    /// one for a fault of its own and ends the program.
+    bool haveGoodKeys(std::uint64_t at, std::uint64_t count) const {
+        for (std::uint64_t i = 0; i < count; ++i)
+            if (!isGoodKey(m_offsets[number(at + i * m_referenceWidth, m_referenceWidth)]))
+                return false;
+        return true;
+    }
+
+    bool isGoodKey(std::uint64_t at) const {
+        const std::uint64_t kind = number(at, 1) >> 4;
+        const std::uint64_t width = kind == 5 ? 1 : 2;
+        const auto count = length(at);
+        if ((kind != 5 && kind != 6) || !count || *count > (m_end - at) / width)
+            return false;
+        for (std::uint64_t i = 0; i < *count; ++i)
+            if (number(at + i * width, width) == 0)
+                return false;
         return true;
     }
 

@@ -17,7 +17,7 @@ namespace {
 /// place would never end.
 std::optional<std::string> contents(const std::string& path) {
     const Descriptor file(::open(path.c_str(), O_RDONLY | O_CLOEXEC | O_NONBLOCK));
-    struct stat status;
+    struct stat status{};
     if (!file.isOpen() || ::fstat(file.number(), &status) != 0 || !S_ISREG(status.st_mode) ||
         status.st_size > static_cast<off_t>(PlistLimits::kBytes))
         return std::nullopt;
@@ -82,7 +82,7 @@ std::map<std::string, std::string, std::less<>> PlistReader::strings() const {
         if (!value)
             break;
         if (auto text = stringOf(value); text && key)
-            all.insert_or_assign(key, std::move(*text));
+            all.try_emplace(key, std::move(*text)); // of two equal keys the first counts
     }
     std::free(at);
     return all;

@@ -18,8 +18,11 @@ std::optional<ports::ToolProgress> parsed(std::string_view line) {
     const char* at = line.data();
     const char* const end = at + line.size();
     for (std::uint64_t* number : {&progress.done, &progress.total, &progress.files}) {
-        if (number != &progress.done && (at == end || *at++ != ' '))
-            return std::nullopt;
+        if (number != &progress.done) {
+            if (at == end || *at != ' ')
+                return std::nullopt;
+            ++at;
+        }
         const auto [rest, error] = std::from_chars(at, end, *number);
         if (error != std::errc())
             return std::nullopt;

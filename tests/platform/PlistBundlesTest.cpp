@@ -93,6 +93,22 @@ TEST(PlistReader, AListThatIsNoDictionaryHasNoStrings) {
     EXPECT_TRUE(list->strings().empty());
 }
 
+TEST(PlistReader, OfTwoEqualKeysTheFirstCounts) {
+    const auto list = PlistReader::read(
+        binary({std::string("\xD2\x01\x02\x03\x04"), "\x51k", "\x51k", "\x51x", "\x51y"}));
+    ASSERT_TRUE(list);
+    EXPECT_EQ(list->string("k"), "x");
+    EXPECT_EQ(list->strings().at("k"), "x");
+}
+
+TEST(PlistReader, AKeyWithAZeroOrOfAnotherKindIsRefused) {
+    const std::string dictionary("\xD1\x01\x02");
+    EXPECT_TRUE(PlistReader::read(binary({dictionary, "\x52kk", "\x51x"})));
+    EXPECT_FALSE(PlistReader::read(binary({dictionary, std::string("\x52k\0", 3), "\x51x"})));
+    EXPECT_FALSE(PlistReader::read(binary({dictionary, std::string("\x62\0k\0\0", 5), "\x51x"})));
+    EXPECT_FALSE(PlistReader::read(binary({dictionary, "\x10\x07", "\x51x"})));
+}
+
 TEST(PlistReader, WhatIsNoPropertyListIsRefused) {
     EXPECT_FALSE(PlistReader::read(""));
     EXPECT_FALSE(PlistReader::read("plain text"));

@@ -10,6 +10,7 @@
 #include <iterator>
 #include <stdexcept>
 #include <string>
+#include <sys/resource.h>
 #include <sys/wait.h>
 #include <thread>
 #include <unistd.h>
@@ -223,6 +224,21 @@ TEST_F(ToolsTest, TheEnvironmentIsInherited) {
     ::setenv("SCRIVEL_TEST_VARIABLE", "seen", 1);
     EXPECT_EQ(tools.capture(call({"environment", "SCRIVEL_TEST_VARIABLE"})).output, "seen");
     ::unsetenv("SCRIVEL_TEST_VARIABLE");
+}
+
+TEST_F(ToolsTest, WithTooFewDescriptorsLeftTheToolCannotStartAndNothingStaysOpen) {
+    rlimit before{};
+    ASSERT_EQ(::getrlimit(RLIMIT_NOFILE, &before), 0);
+    const int firstFree = ::dup(STDERR_FILENO);
+    ::close(firstFree);
+    // One of the two pipes that are needed fits, the other does not.
+    const rlimit few{static_cast<rlim_t>(firstFree) + 2, before.rlim_max};
+    ASSERT_EQ(::setrlimit(RLIMIT_NOFILE, &few), 0);
+    bool called = false;
+    const int status = tools.runThroughPipe(call({"print", "x"}), [&](int) { called = true; });
+    ASSERT_EQ(::setrlimit(RLIMIT_NOFILE, &before), 0);
+    EXPECT_EQ(status, SpawnedTools::kCannotStart);
+    EXPECT_FALSE(called);
 }
 
 TEST_F(ToolsTest, TenThousandRunsLeaveNoDescriptorAndNoChild) {
