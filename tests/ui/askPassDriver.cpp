@@ -1,5 +1,8 @@
 // The askpass helper with a user who types at once:  askPassDriver PROMPT [PASSWORD]
 // Without a password the user presses Escape. The driver's own last argument is not passed on.
+#include <cstdio>
+#include <cstdlib>
+
 #include <QApplication>
 #include <QLineEdit>
 #include <QTest>
@@ -42,5 +45,9 @@ int main(int argc, char** argv) {
                            .argv = argv,
                            .resourceFolder = resources.folder(),
                            .texts = texts,
-                           .dark = false});
+                           .dark = false,
+                           .onNoDisplay = [] {
+                               std::fputs("no display\n", stderr);
+                               std::_Exit(2);
+                           }});
 }
