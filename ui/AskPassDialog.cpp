@@ -18,7 +18,7 @@ namespace {
 
 constexpr int kMargin = 24;
 constexpr int kPictureSize = 64;
-constexpr int kTextWidth = 320;
+constexpr int kTextWidth = 348;
 
 class AskPassDialog final : public QDialog {
   public:

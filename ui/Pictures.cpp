@@ -14,9 +14,11 @@ QPixmap Pictures::square(const QString& file, int points, qreal ratio) {
         if (image->width() != pixels)
             *image = image->scaled(pixels, pixels, Qt::KeepAspectRatio, Qt::SmoothTransformation);
         pixmap = QPixmap::fromImage(std::move(*image));
-        pixmap.setDevicePixelRatio(ratio);
     }
-    return pixmap;
+    // the same pixels may be wanted at one density for the screen and at another for an icon
+    QPixmap dense = pixmap;
+    dense.setDevicePixelRatio(ratio);
+    return dense;
 }
 
 } // namespace ui

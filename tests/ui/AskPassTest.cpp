@@ -31,3 +31,15 @@ TEST(AskPass, PrintsAnEmptyPasswordAsAnEmptyLine) {
 TEST(AskPass, PrintsNothingWhenCanceled) {
     EXPECT_EQ(ask({"Password for root:"}), (Answer{1, ""}));
 }
+
+TEST(AskPass, SaysSoWhenNoDisplayCanBeOpened) {
+    QProcess helper;
+    auto environment = QProcessEnvironment::systemEnvironment();
+    environment.insert("QT_QPA_PLATFORM", "xcb");
+    environment.insert("DISPLAY", ":no-such-display");
+    helper.setProcessEnvironment(environment);
+    helper.start(SCRIVEL_ASKPASS_DRIVER, {"Password for root:"});
+    ASSERT_TRUE(helper.waitForFinished());
+    EXPECT_EQ(helper.exitCode(), 2);
+    EXPECT_EQ(helper.readAllStandardError(), "no display\n");
+}

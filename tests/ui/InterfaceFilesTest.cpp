@@ -139,7 +139,7 @@ TEST(InterfaceFiles, AreFalseWhenTheFileIsBroken) {
 
 TEST(InterfaceFiles, AreFalseWhenTheTopWidgetIsNoDialog) {
     QByteArray file = installerFile();
-    file.replace("<widget class=\"QDialog\"", "<widget class=\"QMainWindow\"");
+    file.replace("<widget class=\"QDialog\"", "<widget class=\"QFrame\"");
     EXPECT_FALSE(canLoad(file));
 }
 

@@ -8,6 +8,7 @@
 #include "tests/ui/Stage.h"
 #include "ui/Colours.h"
 #include "ui/IcnsFile.h"
+#include "ui/Pictures.h"
 #include "ui/Theme.h"
 
 using stage::front;
@@ -109,6 +110,16 @@ TEST(PictureFiles, GiveTheSmallestPictureThatIsLargeEnough) {
         ASSERT_TRUE(image);
         EXPECT_EQ(image->size(), QSize(given, given));
     }
+}
+
+TEST(Pictures, ServeTheSamePixelsAtEveryDensity) {
+    ui::Pictures pictures(SCRIVEL_PICTURES);
+    EXPECT_EQ(pictures.square("Scrivel.icns", 128, 1).deviceIndependentSize(), QSizeF(128, 128));
+    const QPixmap dense = pictures.square("Scrivel.icns", 64, 2);
+    EXPECT_EQ(dense.size(), QSize(128, 128));
+    EXPECT_EQ(dense.deviceIndependentSize(), QSizeF(64, 64));
+    EXPECT_EQ(pictures.square("Scrivel.icns", 100, 1).size(), QSize(100, 100));
+    EXPECT_TRUE(pictures.square("Missing.icns", 64, 1).isNull());
 }
 
 TEST(PictureFiles, HoldEveryPictureOfTheProduct) {

@@ -209,6 +209,13 @@ void dropOffscreenComplaints(QtMsgType type, const QMessageLogContext& context,
 
 } // namespace
 
+Surroundings::Surroundings() {
+    if (qEnvironmentVariableIsEmpty("QT_QPA_PLATFORM"))
+        qputenv("QT_QPA_PLATFORM", "offscreen");
+    qputenv("XDG_RUNTIME_DIR", m_runtime.path().toLocal8Bit());
+    qputenv("LC_ALL", "C.UTF-8");
+}
+
 Front::Front(int& argc, char** argv)
     : frontEnd({.argc = argc,
                 .argv = argv,
@@ -223,6 +230,7 @@ Front& front() {
 }
 
 int runTests(int argc, char** argv) {
+    const Surroundings surroundings;
     qInstallMessageHandler(dropOffscreenComplaints);
     testing::InitGoogleMock(&argc, argv);
     testing::AddGlobalTestEnvironment(new FrontEnvironment(argc, argv));

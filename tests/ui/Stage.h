@@ -97,6 +97,16 @@ ports::Alert unableAlert(const ports::LocalizedTexts& texts);
 /// The window with the sheets that hang on it, as the screen would show them.
 QImage pictureOf(const QWidget& window);
 
+/// What the toolkit finds around it: the offscreen platform unless another one is named, a runtime
+/// folder of its own, and a locale that is the same everywhere. Made before the front end.
+class Surroundings {
+  public:
+    Surroundings();
+
+  private:
+    QTemporaryDir m_runtime;
+};
+
 /// The front end of a test program, light and in English; one in a process.
 struct Front {
     Front(int& argc, char** argv);

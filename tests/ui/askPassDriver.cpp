@@ -1,5 +1,9 @@
 // The askpass helper with a user who types at once:  askPassDriver PROMPT [PASSWORD]
 // Without a password the user presses Escape. The driver's own last argument is not passed on.
+#include <cstdio>
+#include <cstdlib>
+#include <optional>
+
 #include <QApplication>
 #include <QLineEdit>
 #include <QTest>
@@ -36,11 +40,16 @@ int main(int argc, char** argv) {
         s_password = QString::fromUtf8(argv[2]);
         argv[--argc] = nullptr;
     }
-    const stage::Resources resources;
+    std::optional<stage::Resources> resources(std::in_place);
     const stage::TableTexts texts("en");
     return ui::runAskPass({.argc = argc,
                            .argv = argv,
-                           .resourceFolder = resources.folder(),
+                           .resourceFolder = resources->folder(),
                            .texts = texts,
-                           .dark = false});
+                           .dark = false,
+                           .onNoDisplay = [&] {
+                               resources.reset();
+                               std::fputs("no display\n", stderr);
+                               std::_Exit(2);
+                           }});
 }

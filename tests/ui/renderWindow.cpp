@@ -49,6 +49,7 @@ class PaintWatch final : public QObject {
 int main(int argc, char** argv) {
     const bool firstPaint = argc > 1 && std::string_view(argv[1]) == "--first-paint";
     const std::string language = argc > 2 ? argv[2] : "en";
+    const stage::Surroundings surroundings;
     const stage::TableTexts texts(language);
     const stage::Resources resources;
     stage::PipeQueue queue;
