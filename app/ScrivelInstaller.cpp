@@ -278,7 +278,8 @@ void ScrivelInstaller::_show_overwrite_alertSheet(AlertHandler handler) {
          formatted(localized("Would you like to overwrite the %@ at /Applications/%@?"),
                    {product::kDisplayName, product::kDisplayName}),
          informative,
-         {localized("No"), localized("Yes")}},
+         {localized("No"), localized("Yes")},
+         /*escapeButton=*/0},
         m_window, std::move(handler));
 }
 

@@ -15,6 +15,9 @@ endif()
 
 add_compile_options(-Wall -Wextra -Wpedantic -Wshadow -Wnon-virtual-dtor -Woverloaded-virtual
                     -Wimplicit-fallthrough -Werror -Werror=reorder)
+if(CMAKE_CXX_COMPILER_ID STREQUAL "GNU" AND CMAKE_CXX_COMPILER_VERSION VERSION_LESS 13)
+    add_compile_options(-Wno-restrict) # false alarms in std::string's own operator+
+endif()
 add_compile_definitions(_FILE_OFFSET_BITS=64)
 if(NOT APPLE)
     add_compile_definitions(_GNU_SOURCE)

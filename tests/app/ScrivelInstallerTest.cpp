@@ -199,6 +199,7 @@ TEST_F(ScrivelInstallerTest, AnInstalledVersionIsShownInTheOverwriteSheet) {
               "You are about to install Scrivel 21 version 21.0.0.19023, but version 20.5 is "
               "already installed.  This cannot be undone.");
     EXPECT_THAT(alert.buttons, ElementsAre("No", "Yes"));
+    EXPECT_EQ(alert.escapeButton, 0u) << "Escape must never overwrite";
     EXPECT_TRUE(fs::is_directory(destination));
     EXPECT_THAT(host.tools.calls, IsEmpty());
 }
