@@ -72,7 +72,12 @@ bool copyAttribute(int from, int to, const char* name) {
     return errno == ENOTSUP || errno == EPERM || errno == EACCES;
 }
 
-bool copyAttributes(int from, int to) {
+bool isUsers(std::string_view attribute) {
+    return attribute.starts_with("user.");
+}
+
+// Those that `belongs` picks.
+bool copyAttributes(int from, int to, bool (*belongs)(std::string_view)) {
     const ssize_t size = ::flistxattr(from, nullptr, 0);
     if (size <= 0)
         return size == 0 || errno == ENOTSUP;
@@ -83,8 +88,7 @@ bool copyAttributes(int from, int to) {
     const std::string_view all(names.data(), static_cast<std::size_t>(length));
     for (std::size_t at = 0; at < all.size(); at = all.find('\0', at) + 1) {
         const std::string name(all.substr(at).data());
-        if ((name.starts_with("user.") || isAccessControl(name)) &&
-            !copyAttribute(from, to, name.c_str()))
+        if (belongs(name) && !copyAttribute(from, to, name.c_str()))
             return false;
     }
     return true;
@@ -133,9 +137,10 @@ bool copy_metadata(int from, int to) {
     if (::fchown(to, status.st_uid, status.st_gid) != 0)
         mode &= ~static_cast<mode_t>(S_ISUID | S_ISGID);
     const std::array<timespec, 2> times{status.st_atim, status.st_mtim};
-    // Permissions first: with an access control list they are part of it, and the list, set
-    // afterwards, wins.
-    return ::fchmod(to, mode) == 0 && copyAttributes(from, to) && ::futimens(to, times.data()) == 0;
+    // The user's attributes can only be set while the copy may be written to; an access control
+    // list is part of the permissions and, set after them, wins.
+    return copyAttributes(from, to, isUsers) && ::fchmod(to, mode) == 0 &&
+           copyAttributes(from, to, isAccessControl) && ::futimens(to, times.data()) == 0;
 }
 
 bool copy_node(int fromFolder, const char* fromName, int toFolder, const char* toName) {
