@@ -20,7 +20,7 @@ struct AskPassNeeds {
     /// None: as the desktop has it.
     std::optional<bool> dark = std::nullopt;
     /// As in GuiFrontEnd.
-    std::function<void()> onNoDisplay = {};
+    std::function<void()> onNoDisplay = nullptr;
 };
 
 /// Asks. 0: the password and a line feed stand on standard output; 1: the user cancelled, and

@@ -37,7 +37,7 @@ struct GuiFrontEnd::Parts {
     QSocketNotifier queue;
 };
 
-GuiFrontEnd::GuiFrontEnd(Needs needs) : m_parts(std::make_unique<Parts>(needs)) {}
+GuiFrontEnd::GuiFrontEnd(const Needs& needs) : m_parts(std::make_unique<Parts>(needs)) {}
 
 GuiFrontEnd::~GuiFrontEnd() = default;
 

@@ -30,9 +30,9 @@ class GuiFrontEnd {
         std::optional<bool> dark;
         /// Called when no display can be opened: says so and ends the process. Without it the
         /// toolkit's own message and abort stand.
-        std::function<void()> onNoDisplay = {};
+        std::function<void()> onNoDisplay = nullptr;
     };
-    explicit GuiFrontEnd(Needs needs);
+    explicit GuiFrontEnd(const Needs& needs);
     ~GuiFrontEnd();
     GuiFrontEnd(const GuiFrontEnd&) = delete;
     GuiFrontEnd& operator=(const GuiFrontEnd&) = delete;

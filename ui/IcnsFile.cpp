@@ -59,6 +59,7 @@ bool isBetter(const Entry& candidate, const Entry& best, int wanted) {
 
 std::vector<int> entrySizes() {
     std::vector<int> sizes;
+    sizes.reserve(kTypes.size());
     for (const EntryType& entry : kTypes)
         sizes.push_back(entry.pixels);
     return sizes;

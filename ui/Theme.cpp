@@ -17,9 +17,10 @@ constexpr int kButtonHeight = 32;
 constexpr int kButtonWidth = 96;
 
 struct Look {
-    const char* name;
+    const char* name = nullptr;
     /// What the widget's text and ground take their colour from.
-    QPalette::ColorRole text, ground;
+    QPalette::ColorRole text = QPalette::WindowText;
+    QPalette::ColorRole ground = QPalette::Window;
     qreal pointSize = 10;
     QFont::Weight weight = QFont::Normal;
 };

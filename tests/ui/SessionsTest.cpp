@@ -50,7 +50,8 @@ TEST_F(ModalSessions, DrainTheMainQueueForAWorker) {
         try {
             front().queue.sync([] { throw std::runtime_error("thrown on the main thread"); });
         } catch (const std::runtime_error& error) {
-            front().queue.sync([&] { order.emplace_back(error.what()); });
+            const std::string what = error.what();
+            front().queue.sync([&] { order.push_back(what); });
         }
         front().queue.post([&] { loop().stopModalWithCode(1); });
     });

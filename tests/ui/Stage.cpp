@@ -7,7 +7,6 @@
 #include <cstdio>
 #include <cstdlib>
 #include <exception>
-#include <future>
 #include <stdexcept>
 
 #include <gmock/gmock.h>
@@ -102,16 +101,24 @@ void PipeQueue::post(std::function<void()> work) {
 }
 
 void PipeQueue::sync(const std::function<void()>& work) {
-    std::promise<void> done;
+    bool done = false;
+    std::exception_ptr thrown;
     post([&] {
         try {
             work();
-            done.set_value();
         } catch (...) {
-            done.set_exception(std::current_exception());
+            thrown = std::current_exception();
         }
+        const std::lock_guard lock(m_mutex);
+        done = true;
+        m_finished.notify_all(); // under the lock: what it guards lives on the waiting stack
     });
-    done.get_future().get();
+    {
+        std::unique_lock lock(m_mutex);
+        m_finished.wait(lock, [&] { return done; });
+    }
+    if (thrown)
+        std::rethrow_exception(thrown);
 }
 
 void PipeQueue::runPending() {

@@ -70,6 +70,7 @@ class PipeQueue final : public ports::MainQueue {
     std::thread::id m_main = std::this_thread::get_id();
     int m_ends[2];
     std::mutex m_mutex;
+    std::condition_variable m_finished;
     std::deque<std::function<void()>> m_work;
 };
 

@@ -23,15 +23,14 @@ ButtonBinding::ButtonBinding(controls::Button& button, QPushButton& widget)
 
 void ButtonBinding::mirror(const controls::Button& button) {
     const auto& runs = button.attributedTitle().runs;
-    QVariant colour;
-    if (!runs.empty() && runs.front().colour)
-        colour = toQColor(*runs.front().colour);
+    const auto first = runs.empty() ? controls::TextRun{} : runs.front();
+    const QVariant colour = first.colour ? QVariant(toQColor(*first.colour)) : QVariant();
     if (m_widget.property(kTitleColour) != colour) {
         m_widget.setProperty(kTitleColour, colour);
         m_widget.update();
     }
     QFont font = m_widget.font();
-    font.setBold(!runs.empty() && runs.front().bold);
+    font.setBold(first.bold);
     if (font != m_widget.font())
         m_widget.setFont(font);
     // "&" marks a shortcut in a widget's text; a model's title has none
