@@ -197,6 +197,24 @@ TEST_F(DittoExtraction, NeverMoreBytesAreWrittenThanTheMemberDeclares) {
     }
 }
 
+TEST_F(DittoExtraction, ADamagedByteOfALargeMemberIsNoticed) {
+    std::string text;
+    for (std::uint32_t i = 0; text.size() < 2'000'000; ++i)
+        text += std::to_string(i * 2654435761u) + ' ';
+    const RawMember whole = packedFile("large", text);
+    for (std::size_t part = 0; part < 12; ++part) {
+        RawMember damaged = whole;
+        char& byte = damaged.data[part * damaged.data.size() / 12];
+        byte = static_cast<char>(byte ^ 0x10);
+        archive({damaged});
+        EXPECT_EQ(unpack().status, 1) << part;
+        EXPECT_TRUE(fs::is_empty(at("out"))) << part;
+    }
+    archive({whole});
+    EXPECT_EQ(unpack().status, 0);
+    EXPECT_EQ(contentsOf(at("out/large")), text);
+}
+
 TEST_F(DittoExtraction, AMemberThatEndsEarlyIsDamaged) {
     RawMember small = packedFile("small", "text");
     small.size = 5;

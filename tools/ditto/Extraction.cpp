@@ -36,6 +36,10 @@ timespec modifiedTime(const ZipMember& member) {
         std::tm parts{};
         ::gmtime_r(&wall, &parts);
         parts.tm_isdst = -1;
+        // The C library reads the time zone's settings again each time, behind a lock of its own
+        // that no checker sees.
+        static std::mutex mutex;
+        const std::lock_guard lock(mutex);
         seconds = std::mktime(&parts);
     }
     return {.tv_sec = seconds, .tv_nsec = 0};
