@@ -2,6 +2,8 @@
 
 #include <cstdlib>
 #include <iostream>
+#include <optional>
+#include <string_view>
 
 #include "app/ExitCode.h"
 #include "app/OptionTable.h"
@@ -12,6 +14,15 @@ namespace app {
 
 namespace {
 
+/// SCRIVEL_APPEARANCE=dark or light; none: as the desktop has it.
+std::optional<bool> wantedAppearance() {
+    const char* value = std::getenv("SCRIVEL_APPEARANCE");
+    const std::string_view wanted = value ? value : "";
+    if (wanted == "dark" || wanted == "light")
+        return wanted == "dark";
+    return std::nullopt;
+}
+
 class GuiWindow final : public WindowFrontEnd {
   public:
     explicit GuiWindow(const Needs& needs)
@@ -21,7 +32,7 @@ class GuiWindow final : public WindowFrontEnd {
                  .texts = needs.texts,
                  .mainQueueDescriptor = needs.mainQueueDescriptor,
                  .runPending = needs.runPending,
-                 .dark = std::nullopt,
+                 .dark = wantedAppearance(),
                  .onNoDisplay = [] {
                      std::cerr << kProgramName << ": " << kNoDisplay << std::endl;
                      std::_Exit(static_cast<int>(ExitCode::usage));
@@ -47,8 +58,11 @@ std::unique_ptr<WindowFrontEnd> makeWindowFrontEnd(const WindowFrontEnd::Needs& 
 
 int runPasswordDialog(int& argc, char** argv, const std::string& resourceFolder,
                       const ports::LocalizedTexts& texts) {
-    return ui::runAskPass(
-        {.argc = argc, .argv = argv, .resourceFolder = resourceFolder, .texts = texts});
+    return ui::runAskPass({.argc = argc,
+                           .argv = argv,
+                           .resourceFolder = resourceFolder,
+                           .texts = texts,
+                           .dark = wantedAppearance()});
 }
 
 } // namespace app

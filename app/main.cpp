@@ -15,8 +15,8 @@ namespace {
 
 int askPassword(int& argc, char** argv) {
     const posix::PlistBundles bundles(app::ownExecutable());
-    const posix::StringsFileTexts texts({.resourceFolder = bundles.mainResourceFolder(),
-                                         .languages = app::preferredLanguages()});
+    const posix::StringsFileTexts texts(
+        {.resourceFolder = bundles.mainResourceFolder(), .languages = app::preferredLanguages()});
     return app::runPasswordDialog(argc, argv, bundles.mainResourceFolder(), texts);
 }
 

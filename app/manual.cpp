@@ -73,7 +73,8 @@ void manualPage(std::ostream& out) {
     out << ".SH FILES\n.TP\n.I ~/Library/Logs/Scrivel 21 Stub Install.log\nThe log. Not written "
            "where the folder is missing.\n.SH ENVIRONMENT\n.TP\n.B HOME\nWhere \"~\" leads without "
         << troff("--home")
-        << ".\n.TP\n.B TMPDIR\nThe folder for temporary files; without it /tmp.\n";
+        << ".\n.TP\n.B SCRIVEL_APPEARANCE\n\"dark\" or \"light\"; without it the window looks as "
+           "the desktop does.\n.TP\n.B TMPDIR\nThe folder for temporary files; without it /tmp.\n";
 }
 
 void bashCompletion(std::ostream& out) {

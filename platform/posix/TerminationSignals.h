@@ -1,6 +1,6 @@
-// Turns the wish to end the program (Ctrl-C, kill, a closed terminal) into ordinary work on the main
-// queue, so that everything is put away in order. Made first thing by the composition root, before
-// any other thread: threads made later inherit that the signals are held back.
+// Turns the wish to end the program (Ctrl-C, kill, a closed terminal) into ordinary work on the
+// main queue, so that everything is put away in order. Made first thing by the composition root,
+// before any other thread: threads made later inherit that the signals are held back.
 #pragma once
 
 #include <atomic>
