@@ -328,6 +328,7 @@ TEST_F(EndToEnd, AFileAtTheDestinationIsNoQuestionButAFailure) {
     EXPECT_THAT(granted.exit, testing::AnyOf(4, 5)); // not root: the host's facility refuses
     const Result refused = runWith(R"({"authorize": false})");
     EXPECT_EQ(refused.exit, 5);
+    EXPECT_THAT(refused.error, HasSubstr("rights were needed and refused"));
     EXPECT_EQ(refused.of("authorize")[0]["granted"], false);
     EXPECT_EQ(contentsOf(destination), "a file");
 }
