@@ -1,5 +1,6 @@
 #include "wizard/InstallLog.h"
 
+#include <cstdlib>
 #include <filesystem>
 #include <fstream>
 #include <sstream>
@@ -126,8 +127,8 @@ TEST_F(InstallLogTest, WithoutAHomeFolderNothingIsWrittenIntoTheSystem) {
 }
 
 TEST(InstallLogOnDisk, AMissingLogsFolderIsNotMade) {
-    const auto home = std::filesystem::temp_directory_path() / "scrivel-log-test";
-    std::filesystem::create_directories(home);
+    std::string name = (std::filesystem::temp_directory_path() / "scrivel-log-XXXXXX").string();
+    const std::filesystem::path home = mkdtemp(name.data());
     fakes::FakeHost host;
     posix::FileTextStreams streams;
     const ports::SystemPlaces places{.root = "", .home = home.string(), .temporary = "/tmp"};

@@ -1,5 +1,6 @@
 #include "wizard/ecController.h"
 
+#include <cstdlib>
 #include <filesystem>
 
 #include <gtest/gtest.h>
@@ -10,8 +11,14 @@ namespace {
 
 namespace fs = std::filesystem;
 
+/// A folder of the test's own.
+fs::path freshFolder() {
+    std::string name = (fs::temp_directory_path() / "scrivel-test-XXXXXX").string();
+    return mkdtemp(name.data());
+}
+
 struct WizardStartUpTest : testing::Test {
-    fs::path folder = fs::temp_directory_path() / "scrivel-startup-test";
+    fs::path folder = freshFolder();
     fakes::FakeHost host;
     void SetUp() override {
         fs::create_directories(folder / "resources");
