@@ -2,6 +2,7 @@
 #include <thread>
 
 #include <gmock/gmock.h>
+#include <unistd.h>
 
 #include "tests/app/InstallerRun.h"
 
@@ -358,6 +359,23 @@ TEST_F(EndToEnd, WhatAToolHidesTheLookAtTheDiskFinds) {
     EXPECT_EQ(result.exit, 4);
     EXPECT_THAT(result.error, HasSubstr("Read Me.txt"));
     EXPECT_THAT(logged()[3], HasSubstr("Result: 0"));
+}
+
+TEST_F(EndToEnd, AFullDestinationFailsTruthfully) {
+    posix::SpawnedTools tools({});
+    const std::string applications = (root / "Applications").string();
+    if (geteuid() != 0 ||
+        tools.run({"/bin/mount", {"-t", "tmpfs", "-o", "size=1m", "tmpfs", applications}}) != 0)
+        GTEST_SKIP() << "only root can mount a small file system";
+    const Result result = run("install --unattended --no-launch");
+    EXPECT_EQ(result.exit, 4);
+    EXPECT_EQ(tools.run({"/bin/umount", {applications}}), 0);
+}
+
+TEST_F(EndToEnd, AReaderOfTheEventsThatGoesAwayDoesNotStopTheWork) {
+    useSmallProduct();
+    (void)run("install --unattended --no-launch | head -n 1");
+    EXPECT_TRUE(fs::exists(destination / "Read Me.txt"));
 }
 
 TEST_F(EndToEnd, ARootFolderThatIsMissingIsMade) {

@@ -36,6 +36,16 @@ TEST_F(WizardStartUpTest, ThePlainStartFillsTheFieldsFromTheBundle) {
     EXPECT_TRUE(host.streams.appended.empty());
 }
 
+TEST_F(WizardStartUpTest, ThePlainStartClearsEveryFlag) {
+    const ec::ecController controller(host.host());
+    EXPECT_FALSE(controller.m_bPMRK_path_added);
+    EXPECT_FALSE(controller.m_bUninstall);
+    EXPECT_FALSE(controller.m_bCustomizeMSWord);
+    EXPECT_EQ(controller.m_aboutFileString, "");
+    EXPECT_EQ(controller.m_mode, 0u);
+    EXPECT_EQ(controller.mResultCode, 0);
+}
+
 TEST_F(WizardStartUpTest, TheHomeDirectoryIsTheUsers) {
     EXPECT_EQ(ec::ecController(host.host()).readHomeDirectory(), "/Users/someone");
 }
