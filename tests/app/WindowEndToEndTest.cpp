@@ -265,6 +265,7 @@ TEST_F(InTheWindow, TheWindowSpeaksTheUsersLanguageAndTheLogStaysAsItIs) {
     press(window(), "Return");
     const Result german = end();
     EXPECT_EQ(german.exit, 0);
+    EXPECT_EQ(german.error, "") << "also where the system has no such locale";
     EXPECT_EQ(german.of("status")[0]["text"], "Scrivel 21 wird entpackt \u2026");
 
     fs::remove_all(destination);

@@ -89,7 +89,6 @@ Connection& display() {
 
 void WindowRun::TearDown() {
     if (m_program && !hasEnded()) {
-        openGate(); // what the program has started ends by itself
         send(SIGKILL);
         m_program->wait();
     }
@@ -219,9 +218,9 @@ void WindowRun::waitUntil(std::string_view what, const std::function<bool()>& co
 void WindowRun::holdDitto() {
     const fs::path real = folder / "ditto.real";
     fs::copy_file(bundle / "Contents/MacOS/ditto", real);
-    // The folder's end is the end of the waiting too, whatever became of the test.
+    // When a test fails, the script ends with the folder.
     replaceTool("ditto", "cd '" + folder.string() + "' && : >reached\n" +
-                             "while [ -e reached ] && ! [ -e gate ]; do sleep 0.02; done\n" +
+                             "until [ -e gate ]; do [ -e reached ] || exit 1; sleep 0.02; done\n" +
                              "exec '" + real.string() + "' \"$@\"");
 }
 
