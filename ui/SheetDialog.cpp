@@ -21,7 +21,7 @@ namespace {
 
 constexpr int kMargin = 24;
 constexpr int kSignSize = 52;
-constexpr int kTextWidth = 372;
+constexpr int kTextWidth = 440; // the sheet covers the picture and the words below it whole
 constexpr int kGap = 8;
 
 /// Lies over the window's content while a sheet hangs there, and takes the sheet's shadow.
@@ -56,14 +56,17 @@ class Shade final : public QWidget {
     QRect m_sheet;
 };
 
-/// A line must not break between a path's first slash and its name.
-QString withWholePaths(QString text) {
-    static const QRegularExpression firstSlash("(^|\\s)/(?=\\S)");
-    return text.replace(firstSlash, QStringLiteral("\\1/\u2060"));
+/// A line must not break inside a path, as long as the rest of it fits into a line, nor between a
+/// name and its number ("Scrivel 21").
+QString withWholeNames(QString text) {
+    static const QRegularExpression slash("/(?=\\S{1,40}(?!\\S))");
+    static const QRegularExpression beforeNumber("(?<=\\S) (?=\\d)");
+    return text.replace(slash, QStringLiteral("/\u2060"))
+        .replace(beforeNumber, QStringLiteral("\u00a0"));
 }
 
 QLabel* paragraph(const std::string& text, const char* style) {
-    auto* label = new QLabel(withWholePaths(QString::fromStdString(text)));
+    auto* label = new QLabel(withWholeNames(QString::fromStdString(text)));
     label->setAccessibleName(QString::fromStdString(text));
     label->setProperty(kLook, style);
     label->setTextFormat(Qt::PlainText);
@@ -163,10 +166,12 @@ void SheetDialog::closeEvent(QCloseEvent* event) {
 }
 
 void SheetDialog::paintEvent(QPaintEvent*) {
+    // two grounds rather than a drawn line, which leaves a gap at the edge where the screen is
+    // dense; a sheet comes out from below the title bar and has no line there
     QPainter painter(this);
-    painter.fillRect(rect(), palette().color(QPalette::Window));
-    painter.setPen(palette().color(QPalette::Mid));
-    painter.drawRect(rect().adjusted(0, 0, -1, -1));
+    painter.fillRect(rect(), palette().color(QPalette::Mid));
+    painter.fillRect(rect().adjusted(1, parentWidget() ? 0 : 1, -1, -1),
+                     palette().color(QPalette::Window));
 }
 
 bool SheetDialog::eventFilter(QObject* watched, QEvent* event) {
