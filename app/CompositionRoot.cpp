@@ -170,8 +170,9 @@ ExitCode Run::outcome(std::string& reason) {
                                                m_installer->destination());
     if (!fault)
         return ExitCode::done;
-    reason = *fault;
-    return m_adapters.administrator.wasRefused() ? ExitCode::refused : ExitCode::failed;
+    const bool refused = m_adapters.administrator.wasRefused();
+    reason = (refused ? "administrator rights were needed and refused: " : "") + *fault;
+    return refused ? ExitCode::refused : ExitCode::failed;
 }
 
 void Run::report(std::optional<int> result, ExitCode code, const std::string& reason) {

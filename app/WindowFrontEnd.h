@@ -2,13 +2,13 @@
 // none: WindowFrontEnd.none.cpp stands in for WindowFrontEnd.qt.cpp.
 #pragma once
 
-#include <functional>
 #include <memory>
 #include <string>
 #include <string_view>
 
 #include "platform/ports/FrontEnd.h"
 #include "platform/ports/LocalizedTexts.h"
+#include "ui/GuiFrontEnd.h"
 
 namespace app {
 
@@ -22,15 +22,7 @@ struct FrontEndPorts {
 
 class WindowFrontEnd {
   public:
-    struct Needs {
-        int& argc;
-        char** argv;
-        std::string resourceFolder;
-        const ports::LocalizedTexts& texts;
-        /// Readable while the main queue holds work.
-        int mainQueueDescriptor;
-        std::function<void()> runPending;
-    };
+    using Needs = ui::GuiFrontEnd::Needs;
 
     virtual ~WindowFrontEnd() = default;
     virtual FrontEndPorts ports() = 0;
@@ -43,7 +35,9 @@ inline constexpr std::string_view kNoDisplay =
 /// Can this build show a window at all?
 bool hasWindowFrontEnd();
 
-std::unique_ptr<WindowFrontEnd> makeWindowFrontEnd(const WindowFrontEnd::Needs& needs);
+/// Null in a build without one. How the window looks and what happens when no display can be opened
+/// is filled in here.
+std::unique_ptr<WindowFrontEnd> makeWindowFrontEnd(WindowFrontEnd::Needs needs);
 
 /// Asks for a password in a small window and prints it: what `sudo` starts as its helper. Answers
 /// the exit status.

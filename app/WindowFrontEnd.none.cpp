@@ -6,7 +6,7 @@ bool hasWindowFrontEnd() {
     return false;
 }
 
-std::unique_ptr<WindowFrontEnd> makeWindowFrontEnd(const WindowFrontEnd::Needs&) {
+std::unique_ptr<WindowFrontEnd> makeWindowFrontEnd(WindowFrontEnd::Needs) {
     return nullptr;
 }
 

@@ -8,7 +8,6 @@
 #include "app/ExitCode.h"
 #include "app/OptionTable.h"
 #include "ui/AskPassDialog.h"
-#include "ui/GuiFrontEnd.h"
 
 namespace app {
 
@@ -25,18 +24,7 @@ std::optional<bool> wantedAppearance() {
 
 class GuiWindow final : public WindowFrontEnd {
   public:
-    explicit GuiWindow(const Needs& needs)
-        : m_gui({.argc = needs.argc,
-                 .argv = needs.argv,
-                 .resourceFolder = needs.resourceFolder,
-                 .texts = needs.texts,
-                 .mainQueueDescriptor = needs.mainQueueDescriptor,
-                 .runPending = needs.runPending,
-                 .dark = wantedAppearance(),
-                 .onNoDisplay = [] {
-                     std::cerr << kProgramName << ": " << kNoDisplay << std::endl;
-                     std::_Exit(static_cast<int>(ExitCode::usage));
-                 }}) {}
+    explicit GuiWindow(Needs needs) : m_gui(std::move(needs)) {}
 
     FrontEndPorts ports() override {
         return {m_gui.interfaceFiles(), m_gui.alertSheets(), m_gui.modalLoop(), m_gui.appearance()};
@@ -52,8 +40,13 @@ bool hasWindowFrontEnd() {
     return true;
 }
 
-std::unique_ptr<WindowFrontEnd> makeWindowFrontEnd(const WindowFrontEnd::Needs& needs) {
-    return std::make_unique<GuiWindow>(needs);
+std::unique_ptr<WindowFrontEnd> makeWindowFrontEnd(WindowFrontEnd::Needs needs) {
+    needs.dark = wantedAppearance();
+    needs.onNoDisplay = [] {
+        std::cerr << kProgramName << ": " << kNoDisplay << std::endl;
+        std::_Exit(static_cast<int>(ExitCode::usage));
+    };
+    return std::make_unique<GuiWindow>(std::move(needs));
 }
 
 int runPasswordDialog(int& argc, char** argv, const std::string& resourceFolder,

@@ -1,5 +1,6 @@
 // The process entry: reads the command line and hands over. Started as "scrivel-askpass" the
 // program is the window in which sudo asks for the password.
+#include <csignal>
 #include <cstdlib>
 #include <iostream>
 #include <string_view>
@@ -23,6 +24,8 @@ int askPassword(int& argc, char** argv) {
 } // namespace
 
 int main(int argc, char** argv) {
+    // A reader of the events that goes away must not end the work half-way.
+    std::signal(SIGPIPE, SIG_IGN);
     if (std::string_view(argv[0]).ends_with("scrivel-askpass"))
         return askPassword(argc, argv);
     const char* home = std::getenv("HOME");

@@ -5,11 +5,11 @@
 build_packages=(
     g++ cmake ninja-build pkg-config git ca-certificates
     qt6-base-dev qt6-tools-dev libqt6opengl6-dev libqt6svg6 qt6-image-formats-plugins fonts-inter
-    libplist-dev nlohmann-json3-dev libcli11-dev libdeflate-dev libutf8proc-dev libisal-dev zlib1g-dev uuid-dev
+    libplist-dev nlohmann-json3-dev libcli11-dev libdeflate-dev libutf8proc-dev libisal-dev uuid-dev
     libgtest-dev libgmock-dev
 )
 # What the tests compare with and run in.
-test_packages=(zip unzip attr xvfb xauth xdotool x11-utils sudo procps)
+test_packages=(zip unzip libarchive-tools attr e2fsprogs xvfb xauth xdotool x11-utils sudo procps)
 # A display where there is none, and pictures of it.
 virtual_display_packages=(xvfb xauth xdotool x11-utils imagemagick)
 

@@ -27,7 +27,7 @@ class GuiFrontEnd {
         int mainQueueDescriptor;
         std::function<void()> runPending;
         /// None: as the desktop has it.
-        std::optional<bool> dark;
+        std::optional<bool> dark = std::nullopt;
         /// Called when no display can be opened: says so and ends the process. Without it the
         /// toolkit's own message and abort stand.
         std::function<void()> onNoDisplay = nullptr;

@@ -1,7 +1,6 @@
 #include "wizard/InstallLog.h"
 
 #include <array>
-#include <chrono>
 #include <cstdio>
 
 namespace ec {
@@ -10,16 +9,11 @@ namespace {
 
 /// The platform's default text of a date: "2001-02-03 04:05:06 +0000", always in UTC.
 std::string dateText(std::chrono::system_clock::time_point time) {
-    using namespace std::chrono;
-    const auto day = floor<days>(time);
-    const year_month_day date(day);
-    const hh_mm_ss clock(floor<seconds>(time - day));
+    const ports::CalendarTime t(time);
     std::array<char, 48> text{};
-    const int length = std::snprintf(
-        text.data(), text.size(), "%04d-%02u-%02u %02d:%02d:%02d +0000",
-        static_cast<int>(date.year()), static_cast<unsigned>(date.month()),
-        static_cast<unsigned>(date.day()), static_cast<int>(clock.hours().count()),
-        static_cast<int>(clock.minutes().count()), static_cast<int>(clock.seconds().count()));
+    const int length =
+        std::snprintf(text.data(), text.size(), "%04d-%02u-%02u %02d:%02d:%02d +0000", t.year,
+                      t.month, t.day, t.hour, t.minute, t.second);
     return {text.data(), static_cast<std::size_t>(length)};
 }
 

@@ -1,7 +1,9 @@
-// The facts that several facets share, each with this one owner: where the resources lie, and which
-// home folder is meant. Filled by the controller's plain start and only read afterwards.
+// The facts that several facets share, each with this one owner: where the resources lie, which
+// mode the wizard runs in and how it ended, what was decided on the way. Filled and cleared by the
+// controller's plain start. Holds facts only.
 #pragma once
 
+#include <cstdint>
 #include <string>
 
 #include "platform/ports/Bundles.h"
@@ -21,6 +23,19 @@ struct WizardSession {
     /// The main bundle's executable.
     std::string m_execPath;
     ports::SystemPlaces places;
+    /// The text about the product; empty where there is none.
+    std::string m_aboutFileString;
+
+    /// The launch mode, and the wizard's result.
+    std::uint32_t m_mode = 0;
+    std::int32_t mResultCode = 0;
+
+    /// A location was added by hand to those where Word's add-in goes.
+    bool m_bPMRK_path_added = false;
+    /// The wizard uninstalls.
+    bool m_bUninstall = false;
+    /// The user wants the add-in in Word.
+    bool m_bCustomizeMSWord = false;
 };
 
 } // namespace ec

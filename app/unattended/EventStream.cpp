@@ -1,7 +1,6 @@
 #include "app/unattended/EventStream.h"
 
 #include <array>
-#include <chrono>
 #include <cstdio>
 
 namespace app {
@@ -10,17 +9,11 @@ namespace {
 
 /// ISO 8601 in UTC with milliseconds.
 std::string timeText(std::chrono::system_clock::time_point time) {
-    using namespace std::chrono;
-    const auto day = floor<days>(time);
-    const year_month_day date(day);
-    const hh_mm_ss clock(floor<milliseconds>(time - day));
+    const ports::CalendarTime t(time);
     std::array<char, 48> text{};
-    const int length = std::snprintf(
-        text.data(), text.size(), "%04d-%02u-%02uT%02d:%02d:%02d.%03dZ",
-        static_cast<int>(date.year()), static_cast<unsigned>(date.month()),
-        static_cast<unsigned>(date.day()), static_cast<int>(clock.hours().count()),
-        static_cast<int>(clock.minutes().count()), static_cast<int>(clock.seconds().count()),
-        static_cast<int>(clock.subseconds().count()));
+    const int length =
+        std::snprintf(text.data(), text.size(), "%04d-%02u-%02uT%02d:%02d:%02d.%03dZ", t.year,
+                      t.month, t.day, t.hour, t.minute, t.second, t.millisecond);
     return {text.data(), static_cast<std::size_t>(length)};
 }
 

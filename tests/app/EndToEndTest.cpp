@@ -2,6 +2,7 @@
 #include <thread>
 
 #include <gmock/gmock.h>
+#include <unistd.h>
 
 #include "tests/app/InstallerRun.h"
 
@@ -328,6 +329,7 @@ TEST_F(EndToEnd, AFileAtTheDestinationIsNoQuestionButAFailure) {
     EXPECT_THAT(granted.exit, testing::AnyOf(4, 5)); // not root: the host's facility refuses
     const Result refused = runWith(R"({"authorize": false})");
     EXPECT_EQ(refused.exit, 5);
+    EXPECT_THAT(refused.error, HasSubstr("rights were needed and refused"));
     EXPECT_EQ(refused.of("authorize")[0]["granted"], false);
     EXPECT_EQ(contentsOf(destination), "a file");
 }
@@ -357,6 +359,23 @@ TEST_F(EndToEnd, WhatAToolHidesTheLookAtTheDiskFinds) {
     EXPECT_EQ(result.exit, 4);
     EXPECT_THAT(result.error, HasSubstr("Read Me.txt"));
     EXPECT_THAT(logged()[3], HasSubstr("Result: 0"));
+}
+
+TEST_F(EndToEnd, AFullDestinationFailsTruthfully) {
+    posix::SpawnedTools tools({});
+    const std::string applications = (root / "Applications").string();
+    if (geteuid() != 0 ||
+        tools.run({"/bin/mount", {"-t", "tmpfs", "-o", "size=1m", "tmpfs", applications}}) != 0)
+        GTEST_SKIP() << "only root can mount a small file system";
+    const Result result = run("install --unattended --no-launch");
+    EXPECT_EQ(result.exit, 4);
+    EXPECT_EQ(tools.run({"/bin/umount", {applications}}), 0);
+}
+
+TEST_F(EndToEnd, AReaderOfTheEventsThatGoesAwayDoesNotStopTheWork) {
+    useSmallProduct();
+    (void)run("install --unattended --no-launch | head -n 1");
+    EXPECT_TRUE(fs::exists(destination / "Read Me.txt"));
 }
 
 TEST_F(EndToEnd, ARootFolderThatIsMissingIsMade) {

@@ -1,6 +1,7 @@
 // The installer window's flow over fakes: every sheet, every checkpoint, every line.
 #include "app/ScrivelInstaller.h"
 
+#include <cstdlib>
 #include <filesystem>
 #include <fstream>
 
@@ -23,8 +24,14 @@ using Ending = ScrivelInstaller::Ending;
 constexpr int kFirst = ports::AlertSheets::kFirstButton;
 constexpr int kSecond = ports::AlertSheets::kSecondButton;
 
+/// A folder of the test's own.
+fs::path freshFolder() {
+    std::string name = (fs::temp_directory_path() / "scrivel-test-XXXXXX").string();
+    return mkdtemp(name.data());
+}
+
 struct ScrivelInstallerTest : testing::Test {
-    fs::path folder = fs::temp_directory_path() / "scrivel-flow-test";
+    fs::path folder = freshFolder();
     std::string destination = (folder / "root/Applications/Scrivel 21").string();
     fakes::FakeHost host;
     std::vector<std::string> statuses; ///< as the status line showed them

@@ -1,6 +1,7 @@
 // What each operation logs, runs and answers, with tools that only remember.
 #include "engine/FileOperations.h"
 
+#include <cstdlib>
 #include <filesystem>
 #include <fstream>
 
@@ -17,8 +18,14 @@ using ec::ExitStatus;
 using testing::ElementsAre;
 using testing::IsEmpty;
 
+/// A folder of the test's own.
+fs::path freshFolder() {
+    std::string name = (fs::temp_directory_path() / "scrivel-test-XXXXXX").string();
+    return mkdtemp(name.data());
+}
+
 struct FileOperationsTest : testing::Test {
-    fs::path root = fs::temp_directory_path() / "scrivel-operations-test";
+    fs::path root = freshFolder();
     std::string folder = (root / "a folder").string();
     std::string file = (root / "file").string();
     std::string none = (root / "none").string();

@@ -1,5 +1,6 @@
 #include "wizard/InstallLog.h"
 
+#include <cstdlib>
 #include <filesystem>
 
 #include <gmock/gmock.h>

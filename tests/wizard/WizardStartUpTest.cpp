@@ -1,5 +1,6 @@
 #include "wizard/ecController.h"
 
+#include <cstdlib>
 #include <filesystem>
 
 #include <gtest/gtest.h>
@@ -10,6 +11,12 @@
 namespace {
 
 namespace fs = std::filesystem;
+
+/// A folder of the test's own.
+fs::path freshFolder() {
+    std::string name = (fs::temp_directory_path() / "scrivel-test-XXXXXX").string();
+    return mkdtemp(name.data());
+}
 
 struct WizardStartUpTest : testing::Test {
     tests::TemporaryFolder folder;
@@ -27,6 +34,16 @@ TEST_F(WizardStartUpTest, ThePlainStartFillsTheFieldsFromTheBundle) {
     EXPECT_EQ(controller.m_appResourceDir, host.bundles.resourceFolder);
     EXPECT_EQ(controller.m_execPath, host.bundles.executable);
     EXPECT_TRUE(host.streams.appended.empty());
+}
+
+TEST_F(WizardStartUpTest, ThePlainStartClearsEveryFlag) {
+    const ec::ecController controller(host.host());
+    EXPECT_FALSE(controller.m_bPMRK_path_added);
+    EXPECT_FALSE(controller.m_bUninstall);
+    EXPECT_FALSE(controller.m_bCustomizeMSWord);
+    EXPECT_EQ(controller.m_aboutFileString, "");
+    EXPECT_EQ(controller.m_mode, 0u);
+    EXPECT_EQ(controller.mResultCode, 0);
 }
 
 TEST_F(WizardStartUpTest, TheHomeDirectoryIsTheUsers) {
