@@ -1,6 +1,5 @@
 #include "wizard/InstallLog.h"
 
-#include <cstdlib>
 #include <filesystem>
 
 #include <gmock/gmock.h>

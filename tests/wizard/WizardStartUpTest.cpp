@@ -1,6 +1,5 @@
 #include "wizard/ecController.h"
 
-#include <cstdlib>
 #include <filesystem>
 
 #include <gtest/gtest.h>
@@ -11,12 +10,6 @@
 namespace {
 
 namespace fs = std::filesystem;
-
-/// A folder of the test's own.
-fs::path freshFolder() {
-    std::string name = (fs::temp_directory_path() / "scrivel-test-XXXXXX").string();
-    return mkdtemp(name.data());
-}
 
 struct WizardStartUpTest : testing::Test {
     tests::TemporaryFolder folder;
