@@ -21,7 +21,7 @@ class CFSRefConverter {
     operator const FSRef&();
     operator const CPath&();
 
-    /// Fills an old-style specification from the reference; false when there is none.
+    /// Fills the old-style form from the reference; false when there is none.
     [[nodiscard]] bool get_fsspec(FSSpec& spec);
 
     /// Why the last conversion failed; 0 for success.

@@ -34,7 +34,7 @@ std::string pascalText(const unsigned char* pascal) {
         return {};
     const std::string text(reinterpret_cast<const char*>(pascal + 1), *pascal);
     // It is read as terminated text.
-    return text.c_str();
+    return text.substr(0, text.find('\0'));
 }
 
 } // namespace

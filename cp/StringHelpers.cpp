@@ -28,7 +28,7 @@ std::u16string stringWith_std_wstring(const std::wstring& text) {
 
 std::string to_utf8_std_string(const std::u16string& string) {
     const std::string text = CFStringToUTF8(string);
-    return text.c_str();
+    return text.substr(0, text.find('\0'));
 }
 
 std::wstring to_std_wstring(const std::u16string& string) {

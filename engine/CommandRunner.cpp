@@ -62,7 +62,7 @@ ExitStatus CommandRunner::launchRootApp(std::string_view tool, const Params& par
     if (!authenticate())
         return ExitStatus::success();
     const int status = m_needs.administrator.start(callOf(tool, params), [this](int descriptor) {
-        std::array<char, 128> buffer;
+        std::array<char, 128> buffer{};
         while (const std::size_t count = m_needs.streams.read(descriptor, buffer))
             std::fwrite(buffer.data(), 1, count, stderr);
     });

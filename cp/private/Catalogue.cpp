@@ -28,7 +28,7 @@ Status statusOf(int error) {
 } // namespace
 
 bool catalogue_info(const std::string& path, CatalogueInfo& info) {
-    struct stat status;
+    struct stat status{};
     if (::stat(path.c_str(), &status) != 0)
         return false;
     info.nodeFlags = S_ISDIR(status.st_mode) ? kNodeIsDirectory : 0;
@@ -41,7 +41,7 @@ bool catalogue_info(const std::string& path, CatalogueInfo& info) {
 Status path_make_ref(const std::string& path, FSRef& ref) {
     const std::unique_ptr<char, decltype(&std::free)> resolved(::realpath(path.c_str(), nullptr),
                                                                &std::free);
-    struct stat status;
+    struct stat status{};
     if (!resolved || ::stat(resolved.get(), &status) != 0)
         return statusOf(errno);
     ref = {.device = static_cast<std::uint64_t>(status.st_dev),
@@ -51,7 +51,7 @@ Status path_make_ref(const std::string& path, FSRef& ref) {
 }
 
 Status ref_make_path(const FSRef& ref, std::string& path) {
-    struct stat status;
+    struct stat status{};
     if (::stat(ref.path.c_str(), &status) != 0)
         return statusOf(errno);
     if (static_cast<std::uint64_t>(status.st_dev) != ref.device ||
@@ -72,7 +72,7 @@ Status ref_make_spec(const FSRef& ref, FSSpec& spec) {
 }
 
 Status find_in_folder(const FSRef& folder, const std::string& name) {
-    struct stat status;
+    struct stat status{};
     const std::string path = folder.path + "/" + name;
     return ::lstat(path.c_str(), &status) == 0 ? kNoError : statusOf(errno);
 }

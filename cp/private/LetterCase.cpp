@@ -25,6 +25,7 @@ wchar_t lower_case(wchar_t c) {
     if (c >= 0 && c < 0x80)
         return c >= L'A' && c <= L'Z' ? static_cast<wchar_t>(c + (L'a' - L'A')) : c;
     static const locale_t locale = unicodeLocale();
+    // NOLINTNEXTLINE(bugprone-signed-char-misuse): that is about char; this is a whole character
     const auto character = static_cast<wint_t>(c);
     if (locale == nullptr || iswupper_l(character, locale) == 0)
         return c;

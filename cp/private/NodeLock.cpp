@@ -6,7 +6,7 @@ namespace Corvaldine::CP::Private {
 
 FileDescriptor open_node(int folder, const char* name, bool followLinks) {
     // Looked at first: opening a device or a pipe could have an effect.
-    struct stat status;
+    struct stat status{};
     if (::fstatat(folder, name, &status, followLinks ? 0 : AT_SYMLINK_NOFOLLOW) != 0 ||
         !(S_ISREG(status.st_mode) || S_ISDIR(status.st_mode)))
         return {};

@@ -12,8 +12,8 @@ bool rename_exclusively(const std::string& from, const std::string& to) {
         return true;
     if (error != EEXIST && error != ENOTSUP)
         return false;
-    struct stat source;
-    struct stat target;
+    struct stat source{};
+    struct stat target{};
     const bool taken = ::lstat(to.c_str(), &target) == 0;
     if (::lstat(from.c_str(), &source) != 0)
         return false;

@@ -9,7 +9,8 @@ namespace Corvaldine::CP::Private {
 namespace {
 
 std::string fromEnvironment(const char* name, const char* otherwise) {
-    const char* value = std::getenv(name);
+    // Read once, before there are threads that could change it.
+    const char* value = std::getenv(name); // NOLINT(concurrency-mt-unsafe)
     return value != nullptr && *value != '\0' ? value : otherwise;
 }
 

@@ -14,7 +14,7 @@ struct SystemFolderBases {
 };
 
 /// For the whole process, from now on. Not to be called once other threads run.
-void set_system_folder_bases(const SystemFolderBases& bases);
+void set_system_folder_bases(const SystemFolderBases& chosen);
 /// As set; until then an empty root, $HOME, and $TMPDIR or "/tmp".
 [[nodiscard]] const SystemFolderBases& system_folder_bases();
 

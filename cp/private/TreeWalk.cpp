@@ -20,7 +20,7 @@ struct CloseDirectory {
 bool isFolder(int folder, const dirent& entry) {
     if (entry.d_type != DT_UNKNOWN)
         return entry.d_type == DT_DIR;
-    struct stat status;
+    struct stat status{};
     return ::fstatat(folder, entry.d_name, &status, AT_SYMLINK_NOFOLLOW) == 0 &&
            S_ISDIR(status.st_mode);
 }
@@ -85,7 +85,8 @@ bool list_children(int folder, childArray& children) {
     own.release();
     for (;;) {
         errno = 0;
-        const dirent* entry = ::readdir(directory.get());
+        // The stream is this call's own, so no other thread reads it.
+        const dirent* entry = ::readdir(directory.get()); // NOLINT(concurrency-mt-unsafe)
         if (entry == nullptr)
             break;
         if (std::strcmp(entry->d_name, ".") == 0 || std::strcmp(entry->d_name, "..") == 0)
@@ -105,7 +106,7 @@ FileDescriptor open_folder(int folder, const char* name) {
 }
 
 bool identify(int node, NodeIdentity& identity) {
-    struct stat status;
+    struct stat status{};
     if (::fstat(node, &status) != 0)
         return false;
     identity = {.device = static_cast<std::uint64_t>(status.st_dev),

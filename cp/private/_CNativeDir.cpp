@@ -21,7 +21,7 @@ class Locking : public TreeVisitor {
     explicit Locking(bool lock) : m_lock(lock) {}
 
     bool entry(int parent, const char* name) override {
-        struct stat status;
+        struct stat status{};
         if (::fstatat(parent, name, &status, AT_SYMLINK_NOFOLLOW) != 0)
             return false;
         // Only files have the flag; links, pipes and devices are passed by.

@@ -21,9 +21,9 @@ namespace formats {
 
 /// Where an alias leads. Names and paths are UTF-8 as the file system has them.
 struct AliasTarget {
-    enum class Kind : std::uint16_t { File = 0, Folder = 1 };
+    enum class Kind : std::uint16_t { file = 0, folder = 1 };
 
-    Kind kind = Kind::File;
+    Kind kind = Kind::file;
     std::string volumeName;
     std::uint32_t volumeCreated = 0; ///< seconds since 1904-01-01, UTC
     std::uint32_t folderNumber = 0;  ///< of the folder that holds the target

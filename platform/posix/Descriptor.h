@@ -1,5 +1,5 @@
-// An open file descriptor that is closed with its owner. Used throughout the adapters, so that no
-// way out of a function leaves one open. Not for sharing between threads.
+// An open file descriptor that is closed with its owner. Used throughout the adapters and by our
+// own tools, so that no way out of a function leaves one open. Not for sharing between threads.
 #pragma once
 
 #include <unistd.h>
@@ -24,6 +24,9 @@ class Descriptor {
 
     int number() const { return m_number; }
     bool isOpen() const { return m_number >= 0; }
+
+    /// Gives the descriptor up to another owner.
+    int release() { return std::exchange(m_number, -1); }
 
     void close() {
         if (m_number >= 0)

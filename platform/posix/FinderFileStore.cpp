@@ -30,6 +30,7 @@ constexpr std::int16_t kAliasNumber = 0;
 constexpr std::uint32_t kIconType = fourCharacters("icns");
 constexpr std::int16_t kCustomIconNumber = -16455; // kCustomIconResource of Icons.h
 constexpr const char* kIconFile = "Icon\r";
+// The same name is what CPath::item_volume answers.
 constexpr const char* kRootVolumeName = "File System";
 constexpr off_t kLongestFile = off_t{256} << 20; // what is taken into memory at most
 
@@ -92,14 +93,14 @@ std::string appleDoubleBeside(const std::string& path) {
     return path.substr(0, name) + "._" + path.substr(name);
 }
 
-enum class Links { Follow, Refuse };
+enum class Links { follow, refuse };
 
 std::optional<Bytes> readFile(const std::string& path, Links links) {
     int file = -1;
     do {
         // A pipe or a device must not make the installer wait.
         file = ::open(path.c_str(), O_RDONLY | O_CLOEXEC | O_NONBLOCK |
-                                        (links == Links::Refuse ? O_NOFOLLOW : 0));
+                                        (links == Links::refuse ? O_NOFOLLOW : 0));
     } while (file < 0 && errno == EINTR);
     if (file < 0)
         return std::nullopt;
@@ -175,7 +176,7 @@ FinderFileStore::Kept FinderFileStore::kept(const std::string& path) const {
     Kept kept;
     kept.attribute = m_calls.readAttribute(path);
     const std::string beside = appleDoubleBeside(path);
-    if (const auto bytes = readFile(beside, Links::Refuse))
+    if (const auto bytes = readFile(beside, Links::refuse))
         kept.beside = formats::readAppleDouble(*bytes);
     struct stat facts{};
     kept.strangerBeside = !kept.beside && ::lstat(beside.c_str(), &facts) == 0;
@@ -225,8 +226,8 @@ std::vector<std::byte> FinderFileStore::aliasRecord(const std::string& target) {
     const bool isVolume = mountPoint == *real;
     const FinderInformation information = decoded(kept(*real).bytes());
     return formats::writeAliasRecord(
-        {.kind = S_ISDIR(facts.st_mode) ? formats::AliasTarget::Kind::Folder
-                                        : formats::AliasTarget::Kind::File,
+        {.kind = S_ISDIR(facts.st_mode) ? formats::AliasTarget::Kind::folder
+                                        : formats::AliasTarget::Kind::file,
          .volumeName = volumeName,
          .volumeCreated = formats::secondsSince1904(m_calls.creationTime(mountPoint)),
          .folderNumber = static_cast<std::uint32_t>(parent.st_ino),
@@ -284,7 +285,7 @@ bool FinderFileStore::setFolderIcon(const std::string& folder, const std::string
     struct stat facts{};
     if (::lstat(item.c_str(), &facts) != 0 || !S_ISDIR(facts.st_mode))
         return false;
-    auto family = readFile(icnsFile, Links::Follow);
+    auto family = readFile(icnsFile, Links::follow);
     if (!family || !formats::iconFamilyElements(*family))
         return false;
 

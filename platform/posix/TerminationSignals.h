@@ -15,6 +15,7 @@ class TerminationSignals {
   public:
     /// `asked` runs on the main queue at each SIGINT, SIGTERM or SIGHUP.
     TerminationSignals(ports::MainQueue& mainQueue, std::function<void()> asked);
+    /// Listens no longer. The signals stay held back, so that the way out is not cut short.
     ~TerminationSignals();
     TerminationSignals(const TerminationSignals&) = delete;
     TerminationSignals& operator=(const TerminationSignals&) = delete;

@@ -1,16 +1,18 @@
+#include <fcntl.h>
 #include <string>
 #include <sys/stat.h>
+#include <unistd.h>
 
 #include "cp/CDir.h"
 #include "cp/CFileType.h"
 #include "tests/cp/FinderInformationWriter.h"
-#include "tests/cp/TemporaryFolder.h"
+#include "tests/cp/FolderTest.h"
 
 using namespace Corvaldine::CP;
 
 namespace {
 
-class DirectoryCopy : public TemporaryFolder {
+class DirectoryCopy : public FolderTest {
   protected:
     void makeTree() const {
         std::filesystem::create_directories(at("src/sub/deep"));

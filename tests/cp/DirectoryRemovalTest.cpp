@@ -1,16 +1,18 @@
+#include <fcntl.h>
 #include <string>
 #include <sys/stat.h>
+#include <unistd.h>
 
 #include "cp/CDir.h"
 #include "cp/CFileUtils.h"
 #include "cp/private/TreeWalk.h"
-#include "tests/cp/TemporaryFolder.h"
+#include "tests/cp/FolderTest.h"
 
 using namespace Corvaldine::CP;
 
 namespace {
 
-class DirectoryRemoval : public TemporaryFolder {
+class DirectoryRemoval : public FolderTest {
   protected:
     // Puts a link in a folder's place at the moment the walk has seen the folder.
     class Swapping : public Private::TreeVisitor {
@@ -109,7 +111,7 @@ TEST_F(DirectoryRemoval, StopsInAWriteProtectedFolder) {
 TEST_F(DirectoryRemoval, TakesATreeOfThousandsOfLevels) {
     std::filesystem::create_directory(at("tree"));
     int parent = ::open(at("tree").c_str(), O_RDONLY | O_DIRECTORY | O_CLOEXEC);
-    for (int i = 0; i < 10000; ++i) {
+    for (int i = 0; i < 3000; ++i) {
         ASSERT_EQ(::mkdirat(parent, "level", 0700), 0);
         const int next = ::openat(parent, "level", O_RDONLY | O_DIRECTORY | O_CLOEXEC);
         ::close(parent);

@@ -1,17 +1,18 @@
 #include "cp/CDir.h"
 
 #include <algorithm>
+#include <climits>
 #include <set>
 #include <string>
 
 #include "cp/CException.h"
-#include "tests/cp/TemporaryFolder.h"
+#include "tests/cp/FolderTest.h"
 
 using namespace Corvaldine::CP;
 
 namespace {
 
-class Directories : public TemporaryFolder {
+class Directories : public FolderTest {
   protected:
     std::set<std::string> entries(const CPath& directory) const {
         std::set<std::string> names;
@@ -120,8 +121,10 @@ TEST_F(Directories, RecursiveCreationEndsWhereNothingCanBeMade) {
 }
 
 TEST_F(Directories, RecursiveCreationOfAVeryLongPathFails) {
-    std::string deep = folder.string();
-    for (int i = 0; i < 3000; ++i)
-        deep += "/d";
+    // Longer than any path may be, with names as long as they may be: few levels are enough.
+    std::string deep = folder.path();
+    while (deep.size() <= PATH_MAX)
+        deep += "/" + std::string(NAME_MAX, 'd');
     EXPECT_FALSE(CDir::create(CPath(deep), true));
+    EXPECT_TRUE(path(std::string(NAME_MAX, 'd')).is_directory()) << "it went as deep as it could";
 }

@@ -1,13 +1,13 @@
 #include "cp/CFSRefConverter.h"
 
 #include "cp/CException.h"
-#include "tests/cp/TemporaryFolder.h"
+#include "tests/cp/FolderTest.h"
 
 using namespace Corvaldine::CP;
 
 namespace {
 
-using FSRefConverter = TemporaryFolder;
+using FSRefConverter = FolderTest;
 
 const FSRef& ref(CFSRefConverter& converter) {
     return converter;
@@ -76,7 +76,7 @@ TEST_F(FSRefConverter, AReferenceToSomethingReplacedHasNoPath) {
 }
 
 TEST_F(FSRefConverter, ALongPathComesBackWhole) {
-    std::filesystem::path deep = folder;
+    std::filesystem::path deep = folder.path();
     for (int i = 0; i < 8; ++i)
         deep /= std::string(200, 'd');
     std::filesystem::create_directories(deep);
@@ -85,15 +85,15 @@ TEST_F(FSRefConverter, ALongPathComesBackWhole) {
     EXPECT_EQ(back(to), CPath(deep.string()));
 }
 
-TEST_F(FSRefConverter, AnOldStyleSpecificationNamesFolderAndFile) {
+TEST_F(FSRefConverter, TheOldStyleFormNamesFolderAndFile) {
     write("file", "");
     CFSRefConverter parent((top()));
     CFSRefConverter converter(path("file"));
-    FSSpec spec;
-    ASSERT_TRUE(converter.get_fsspec(spec));
-    EXPECT_EQ(spec.name, "file");
-    EXPECT_EQ(spec.parID, ref(parent).inode);
-    EXPECT_EQ(spec.vRefNum, ref(parent).device);
+    FSSpec old;
+    ASSERT_TRUE(converter.get_fsspec(old));
+    EXPECT_EQ(old.name, "file");
+    EXPECT_EQ(old.parID, ref(parent).inode);
+    EXPECT_EQ(old.vRefNum, ref(parent).device);
     CFSRefConverter missing(path("missing"));
-    EXPECT_FALSE(missing.get_fsspec(spec));
+    EXPECT_FALSE(missing.get_fsspec(old));
 }

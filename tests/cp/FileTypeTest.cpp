@@ -5,7 +5,7 @@
 
 #include "cp/CException.h"
 #include "tests/cp/FinderInformationWriter.h"
-#include "tests/cp/TemporaryFolder.h"
+#include "tests/cp/FolderTest.h"
 
 using namespace Corvaldine::CP;
 
@@ -24,7 +24,7 @@ std::wstring mainExtension(const CFileType& type) {
     return extension;
 }
 
-class PathFileType : public TemporaryFolder {
+class PathFileType : public FolderTest {
   protected:
     std::uint32_t typeOf(const CPath& file) const {
         CFileType type(kBefore);

@@ -1,17 +1,18 @@
 #include "cp/CFileUtils.h"
 
+#include <fcntl.h>
 #include <string>
 #include <sys/stat.h>
 
 #include "cp/CFileType.h"
 #include "tests/cp/FinderInformationWriter.h"
-#include "tests/cp/TemporaryFolder.h"
+#include "tests/cp/FolderTest.h"
 
 using namespace Corvaldine::CP;
 
 namespace {
 
-using Files = TemporaryFolder;
+using Files = FolderTest;
 
 struct stat statusOf(const std::filesystem::path& path) {
     struct stat status{};

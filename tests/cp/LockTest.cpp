@@ -4,13 +4,13 @@
 #include "cp/CDir.h"
 #include "cp/CFileUtils.h"
 #include "cp/private/_CNativeDir.h"
-#include "tests/cp/TemporaryFolder.h"
+#include "tests/cp/FolderTest.h"
 
 using namespace Corvaldine::CP;
 
 namespace {
 
-class Locks : public TemporaryFolder {
+class Locks : public FolderTest {
   protected:
     void SetUp() override {
         std::filesystem::create_directories(at("tree/sub"));

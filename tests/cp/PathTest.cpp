@@ -3,7 +3,7 @@
 #include <string>
 #include <type_traits>
 
-#include "tests/cp/TemporaryFolder.h"
+#include "tests/cp/FolderTest.h"
 
 using Corvaldine::CP::CPath;
 
@@ -19,7 +19,7 @@ std::wstring appended(const CPath& base, const CPath& component) {
     return path;
 }
 
-using Paths = TemporaryFolder;
+using Paths = FolderTest;
 
 } // namespace
 

@@ -6,13 +6,13 @@
 
 #include "cp/private/RunningProcess.h"
 #include "cp/private/SystemFolders.h"
-#include "tests/cp/TemporaryFolder.h"
+#include "tests/cp/FolderTest.h"
 
 using namespace Corvaldine::CP;
 
 namespace {
 
-class SystemPaths : public TemporaryFolder {
+class SystemPaths : public FolderTest {
   protected:
     SystemPaths() : m_before(Private::system_folder_bases()) {
         Private::set_system_folder_bases({.root = at("root").string(),

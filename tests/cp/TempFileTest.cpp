@@ -3,13 +3,13 @@
 #include "cp/CDir.h"
 #include "cp/CFileUtils.h"
 #include "cp/private/SystemFolders.h"
-#include "tests/cp/TemporaryFolder.h"
+#include "tests/cp/FolderTest.h"
 
 using namespace Corvaldine::CP;
 
 namespace {
 
-using TempFile = TemporaryFolder;
+using TempFile = FolderTest;
 
 std::string picked(const CPath& folder, const char* prefix, unsigned seed) {
     CPath path = folder;
@@ -46,7 +46,7 @@ TEST_F(TempFile, WithoutASeedTheNameComesFromTheTime) {
 }
 
 TEST_F(TempFile, AnEmptyPathMeansTheUsersTemporaryFolder) {
-    Private::set_system_folder_bases({.root = "", .home = "", .temporary = folder.string()});
+    Private::set_system_folder_bases({.root = "", .home = "", .temporary = folder.path()});
     CPath chosen;
     EXPECT_TRUE(CFileUtils::temp_file(chosen, L"SV", 0xAB));
     EXPECT_EQ(chosen, path("SV000000ab"));

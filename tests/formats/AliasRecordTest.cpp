@@ -17,7 +17,7 @@ using testing::operator+;
 
 AliasTarget target() {
     AliasTarget value;
-    value.kind = AliasTarget::Kind::Folder;
+    value.kind = AliasTarget::Kind::folder;
     value.volumeName = "Disk";
     value.volumeCreated = 0x01020304;
     value.folderNumber = 0x11121314;

@@ -4,6 +4,7 @@
 #include <algorithm>
 #include <cstddef>
 #include <cstdlib>
+#include <fstream>
 #include <memory>
 #include <random>
 #include <span>
@@ -11,6 +12,7 @@
 #include <string_view>
 
 #include "platform/formats/AppleDouble.h"
+#include "tests/support/TemporaryFolder.h"
 
 namespace formats::testing {
 
@@ -33,6 +35,16 @@ inline Bytes hex(std::string_view text) {
 inline Bytes bytesOf(std::string_view text) {
     const auto bytes = std::as_bytes(std::span(text));
     return {bytes.begin(), bytes.end()};
+}
+
+inline void writeFile(const std::string& path, const Bytes& bytes) {
+    std::ofstream(path, std::ios::binary)
+        .write(reinterpret_cast<const char*>(bytes.data()),
+               static_cast<std::streamsize>(bytes.size()));
+}
+
+inline Bytes readFile(const std::string& path) {
+    return bytesOf(tests::contentsOf(path));
 }
 
 inline Bytes operator+(Bytes left, const Bytes& right) {

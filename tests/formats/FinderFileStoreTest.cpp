@@ -11,7 +11,7 @@
 #include "platform/formats/AliasRecord.h"
 #include "platform/formats/ResourceFork.h"
 #include "tests/formats/BytesInTests.h"
-#include "tests/formats/TemporaryFolder.h"
+#include "tests/support/TemporaryFolder.h"
 
 namespace posix {
 namespace {
@@ -22,7 +22,6 @@ using formats::fourCharacters;
 using formats::testing::bytesOf;
 using formats::testing::hex;
 using formats::testing::readFile;
-using formats::testing::TemporaryFolder;
 using formats::testing::writeFile;
 using formats::testing::operator+;
 using ports::FinderInformation;
@@ -44,12 +43,12 @@ FinderBytes bytesWith(const Bytes& start) {
 class FinderFileStoreTest : public ::testing::Test {
   protected:
     std::string file(const std::string& name, const Bytes& bytes = {}) {
-        writeFile(folder / name, bytes);
-        return folder / name;
+        writeFile(folder.path(name), bytes);
+        return folder.path(name);
     }
     std::string directory(const std::string& name) {
-        std::filesystem::create_directory(folder / name);
-        return folder / name;
+        std::filesystem::create_directory(folder.path(name));
+        return folder.path(name);
     }
     void refuseAttributesWith(int error) { refusal = error; }
     FinderInformation informationOf(const std::string& path) {
@@ -58,12 +57,12 @@ class FinderFileStoreTest : public ::testing::Test {
         return answer.information;
     }
     AppleDouble appleDouble(const std::string& name) {
-        const auto value = formats::readAppleDouble(readFile(folder / name));
+        const auto value = formats::readAppleDouble(readFile(folder.path(name)));
         EXPECT_TRUE(value) << name;
         return value.value_or(AppleDouble{});
     }
 
-    TemporaryFolder folder;
+    tests::TemporaryFolder folder;
     std::map<std::string, FinderBytes> attributes;
     int refusal = 0;
     FinderFileStore store{
@@ -85,9 +84,9 @@ class FinderFileStoreTest : public ::testing::Test {
 TEST_F(FinderFileStoreTest, AnItemResolvesAndAMissingOneDoesNot) {
     EXPECT_EQ(store.resolve(file("a")), 0);
     EXPECT_EQ(store.resolve(folder.path()), 0);
-    EXPECT_EQ(store.resolve(folder / "none"), -43);
-    std::filesystem::create_symlink("none", folder / "dangling");
-    EXPECT_EQ(store.resolve(folder / "dangling"), -43);
+    EXPECT_EQ(store.resolve(folder.path("none")), -43);
+    std::filesystem::create_symlink("none", folder.path("dangling"));
+    EXPECT_EQ(store.resolve(folder.path("dangling")), -43);
 }
 
 TEST_F(FinderFileStoreTest, InformationIsZeroWhereNoneIsKept) {
@@ -95,8 +94,8 @@ TEST_F(FinderFileStoreTest, InformationIsZeroWhereNoneIsKept) {
 }
 
 TEST_F(FinderFileStoreTest, InformationOfAMissingItemIsAnError) {
-    EXPECT_EQ(store.finderInformation(folder / "none").error, -43);
-    EXPECT_EQ(store.setFinderInformation(folder / "none", kText), -43);
+    EXPECT_EQ(store.finderInformation(folder.path("none")).error, -43);
+    EXPECT_EQ(store.setFinderInformation(folder.path("none"), kText), -43);
 }
 
 TEST_F(FinderFileStoreTest, InformationComesFromTheAttributeBeforeTheAppleDoubleFile) {
@@ -136,7 +135,7 @@ TEST_F(FinderFileStoreTest, InformationGoesIntoANewAppleDoubleFileWhenAttributes
         EXPECT_EQ(folder.names(), (Names{"._a", "a"}));
         EXPECT_EQ(informationOf(path), kText);
         EXPECT_EQ(readFile(path), bytesOf("data"));
-        std::filesystem::remove(folder / "._a");
+        std::filesystem::remove(folder.path("._a"));
     }
 }
 
@@ -176,7 +175,7 @@ TEST_F(FinderFileStoreTest, WhenOneOfBothPlacesFailsNeitherChanges) {
     attributes[path] = {};
     refuseAttributesWith(EIO);
     EXPECT_EQ(store.setFinderInformation(path, kText), -36);
-    EXPECT_EQ(readFile(folder / "._a"), before);
+    EXPECT_EQ(readFile(folder.path("._a")), before);
     EXPECT_EQ(folder.names(), (Names{"._a", "a"}));
 }
 
@@ -188,7 +187,7 @@ TEST_F(FinderFileStoreTest, AFileThatIsNoAppleDoubleFileIsNeverTouched) {
     attributes.clear();
     refuseAttributesWith(ENOTSUP);
     EXPECT_EQ(store.setFinderInformation(path, kText), -36);
-    EXPECT_EQ(readFile(folder / "._a"), bytesOf("my notes"));
+    EXPECT_EQ(readFile(folder.path("._a")), bytesOf("my notes"));
 }
 
 TEST_F(FinderFileStoreTest, AnAppleDoubleFileIsNotReadThroughASymbolicLink) {
@@ -196,17 +195,17 @@ TEST_F(FinderFileStoreTest, AnAppleDoubleFileIsNotReadThroughASymbolicLink) {
     AppleDouble value;
     value.finderInformation = bytesWith(bytesOf("TEXTttxt"));
     file("elsewhere", formats::writeAppleDouble(value));
-    std::filesystem::create_symlink("elsewhere", folder / "._a");
+    std::filesystem::create_symlink("elsewhere", folder.path("._a"));
     EXPECT_EQ(informationOf(path), FinderInformation{});
 }
 
 TEST_F(FinderFileStoreTest, QuestionsFollowSymbolicLinksAndChangesDoNot) {
     const std::string path = file("a");
     ASSERT_EQ(store.setFinderInformation(path, kText), 0);
-    std::filesystem::create_symlink("a", folder / "link");
-    EXPECT_EQ(informationOf(folder / "link"), kText);
-    EXPECT_EQ(store.setFinderInformation(folder / "link", kOther), -36);
-    EXPECT_EQ(store.setFinderInformation(folder / "link/", kOther), -36);
+    std::filesystem::create_symlink("a", folder.path("link"));
+    EXPECT_EQ(informationOf(folder.path("link")), kText);
+    EXPECT_EQ(store.setFinderInformation(folder.path("link"), kOther), -36);
+    EXPECT_EQ(store.setFinderInformation(folder.path("link/"), kOther), -36);
     EXPECT_EQ(informationOf(path), kText);
     EXPECT_EQ(folder.names(), (Names{"a", "link"}));
 }
@@ -214,28 +213,28 @@ TEST_F(FinderFileStoreTest, QuestionsFollowSymbolicLinksAndChangesDoNot) {
 TEST_F(FinderFileStoreTest, SlashesAtTheEndDoNotBelongToTheName) {
     directory("sub");
     refuseAttributesWith(ENOTSUP);
-    EXPECT_EQ(store.setFinderInformation(folder / "sub//", kText), 0);
-    EXPECT_EQ(store.setFinderInformation(folder / "sub/.", kOther), 0);
+    EXPECT_EQ(store.setFinderInformation(folder.path("sub//"), kText), 0);
+    EXPECT_EQ(store.setFinderInformation(folder.path("sub/."), kOther), 0);
     EXPECT_EQ(folder.names(), (Names{"._sub", "sub"}));
-    EXPECT_EQ(informationOf(folder / "sub"), kOther);
+    EXPECT_EQ(informationOf(folder.path("sub")), kOther);
 }
 
 TEST_F(FinderFileStoreTest, AnAliasFileHasAnEmptyDataForkAndTheRecordAsResource) {
     const std::string target = file("target");
     const Bytes record = store.aliasRecord(target);
-    EXPECT_EQ(store.createAliasFile(folder / "alias", record), 0);
+    EXPECT_EQ(store.createAliasFile(folder.path("alias"), record), 0);
     EXPECT_EQ(folder.names(), (Names{"._alias", "alias", "target"}));
-    EXPECT_EQ(readFile(folder / "alias"), Bytes{});
+    EXPECT_EQ(readFile(folder.path("alias")), Bytes{});
     const std::vector<formats::Resource> expected{{fourCharacters("alis"), 0, "", record}};
     EXPECT_EQ(formats::readResourceFork(appleDouble("._alias").resourceFork), expected);
 }
 
 TEST_F(FinderFileStoreTest, InformationOfAnAliasFileJoinsItsForkInTheAppleDoubleFile) {
     const Bytes record = store.aliasRecord(file("target"));
-    ASSERT_EQ(store.createAliasFile(folder / "alias", record), 0);
+    ASSERT_EQ(store.createAliasFile(folder.path("alias"), record), 0);
     const FinderInformation alias{kText.type, kText.creator, FinderInformation::kIsAlias};
-    EXPECT_EQ(store.setFinderInformation(folder / "alias", alias), 0);
-    EXPECT_EQ(informationOf(folder / "alias"), alias);
+    EXPECT_EQ(store.setFinderInformation(folder.path("alias"), alias), 0);
+    EXPECT_EQ(informationOf(folder.path("alias")), alias);
     EXPECT_TRUE(attributes.empty());
     const AppleDouble beside = appleDouble("._alias");
     EXPECT_EQ(beside.finderInformation, bytesWith(bytesOf("TEXTttxt") + hex("8000")));
@@ -245,34 +244,34 @@ TEST_F(FinderFileStoreTest, InformationOfAnAliasFileJoinsItsForkInTheAppleDouble
 TEST_F(FinderFileStoreTest, AnAliasFileReplacesNothing) {
     const std::string path = file("a", bytesOf("data"));
     directory("sub");
-    std::filesystem::create_symlink("none", folder / "dangling");
+    std::filesystem::create_symlink("none", folder.path("dangling"));
     for (const char* name : {"a", "sub", "sub/", "dangling"})
-        EXPECT_EQ(store.createAliasFile(folder / name, hex("00")), -48) << name;
+        EXPECT_EQ(store.createAliasFile(folder.path(name), hex("00")), -48) << name;
     EXPECT_EQ(readFile(path), bytesOf("data"));
     EXPECT_EQ(folder.names(), (Names{"a", "dangling", "sub"}));
 }
 
 TEST_F(FinderFileStoreTest, AnAliasFileReplacesAnAppleDoubleFileThatLostItsFile) {
     file("._alias", formats::writeAppleDouble({}));
-    EXPECT_EQ(store.createAliasFile(folder / "alias", hex("00")), 0);
+    EXPECT_EQ(store.createAliasFile(folder.path("alias"), hex("00")), 0);
     EXPECT_FALSE(appleDouble("._alias").resourceFork.empty());
 }
 
 TEST_F(FinderFileStoreTest, AnAliasFileReplacesNoOtherFileBesideIt) {
     file("._alias", bytesOf("my notes"));
-    EXPECT_EQ(store.createAliasFile(folder / "alias", hex("00")), -48);
-    EXPECT_EQ(readFile(folder / "._alias"), bytesOf("my notes"));
+    EXPECT_EQ(store.createAliasFile(folder.path("alias"), hex("00")), -48);
+    EXPECT_EQ(readFile(folder.path("._alias")), bytesOf("my notes"));
     EXPECT_EQ(folder.names(), Names{"._alias"});
 }
 
 TEST_F(FinderFileStoreTest, AnAliasFileInAMissingFolderIsAnError) {
-    EXPECT_EQ(store.createAliasFile(folder / "none/alias", hex("00")), -43);
+    EXPECT_EQ(store.createAliasFile(folder.path("none/alias"), hex("00")), -43);
 }
 
 TEST_F(FinderFileStoreTest, AnAliasFileWhoseForkCannotBePlacedIsTakenBack) {
     // The name is as long as a name may be, so that "._name" is too long.
     const std::string name(255, 'n');
-    EXPECT_EQ(store.createAliasFile(folder / name, hex("00")), -36);
+    EXPECT_EQ(store.createAliasFile(folder.path(name), hex("00")), -36);
     EXPECT_EQ(folder.names(), Names{});
 }
 
@@ -303,7 +302,7 @@ TEST_F(FinderFileStoreTest, AnAliasRecordLeadsToItsTarget) {
     struct stat parent{};
     ASSERT_EQ(::stat(path.c_str(), &facts), 0);
     ASSERT_EQ(::stat(folder.path().c_str(), &parent), 0);
-    EXPECT_EQ(record->kind, formats::AliasTarget::Kind::File);
+    EXPECT_EQ(record->kind, formats::AliasTarget::Kind::file);
     EXPECT_EQ(record->name, "Größe:1");
     EXPECT_EQ(record->number, static_cast<std::uint32_t>(facts.st_ino));
     EXPECT_EQ(record->folderNumber, static_cast<std::uint32_t>(parent.st_ino));
@@ -321,7 +320,7 @@ TEST_F(FinderFileStoreTest, AnAliasRecordLeadsToItsTarget) {
 TEST_F(FinderFileStoreTest, AnAliasRecordOfAFolderSaysSo) {
     const auto record = formats::readAliasRecord(store.aliasRecord(directory("sub") + "/"));
     ASSERT_TRUE(record);
-    EXPECT_EQ(record->kind, formats::AliasTarget::Kind::Folder);
+    EXPECT_EQ(record->kind, formats::AliasTarget::Kind::folder);
     EXPECT_EQ(record->name, "sub");
 }
 
@@ -336,12 +335,12 @@ TEST_F(FinderFileStoreTest, AnAliasRecordOfAVolumeHasTheVolumesName) {
 
 TEST_F(FinderFileStoreTest, AnAliasRecordFollowsASymbolicLink) {
     const std::string path = file("a");
-    std::filesystem::create_symlink("a", folder / "link");
-    EXPECT_EQ(store.aliasRecord(folder / "link"), store.aliasRecord(path));
+    std::filesystem::create_symlink("a", folder.path("link"));
+    EXPECT_EQ(store.aliasRecord(folder.path("link")), store.aliasRecord(path));
 }
 
 TEST_F(FinderFileStoreTest, ThereIsNoAliasRecordOfAMissingTarget) {
-    EXPECT_TRUE(store.aliasRecord(folder / "none").empty());
+    EXPECT_TRUE(store.aliasRecord(folder.path("none")).empty());
     EXPECT_TRUE(store.aliasRecord("").empty());
 }
 
@@ -413,7 +412,7 @@ TEST_F(FinderFileStoreTest, AFolderInTheIconsPlaceLeavesEverythingAsItWas) {
 TEST_F(FinderFileStoreTest, WhatIsNoIconFamilyIsNotSet) {
     const std::string path = directory("product");
     EXPECT_FALSE(store.setFolderIcon(path, file("icon.icns", bytesOf("a picture"))));
-    EXPECT_FALSE(store.setFolderIcon(path, folder / "none.icns"));
+    EXPECT_FALSE(store.setFolderIcon(path, folder.path("none.icns")));
     EXPECT_FALSE(store.setFolderIcon(path, path));
     EXPECT_EQ(folder.names("product"), Names{});
     EXPECT_TRUE(attributes.empty());
@@ -422,33 +421,33 @@ TEST_F(FinderFileStoreTest, WhatIsNoIconFamilyIsNotSet) {
 TEST_F(FinderFileStoreTest, OnlyAFolderItselfGetsAFolderIcon) {
     const std::string icon = file("icon.icns", kIcon);
     const std::string path = directory("product");
-    std::filesystem::create_directory_symlink("product", folder / "link");
-    EXPECT_FALSE(store.setFolderIcon(folder / "link", icon));
-    EXPECT_FALSE(store.setFolderIcon(folder / "link/", icon));
+    std::filesystem::create_directory_symlink("product", folder.path("link"));
+    EXPECT_FALSE(store.setFolderIcon(folder.path("link"), icon));
+    EXPECT_FALSE(store.setFolderIcon(folder.path("link/"), icon));
     EXPECT_FALSE(store.setFolderIcon(icon, icon));
-    EXPECT_FALSE(store.setFolderIcon(folder / "none", icon));
+    EXPECT_FALSE(store.setFolderIcon(folder.path("none"), icon));
     EXPECT_EQ(folder.names("product"), Names{});
 }
 
 TEST(FinderFileCalls, OnThisSystemInformationIsReadBackAndANewFileIsNew) {
-    const TemporaryFolder folder;
-    writeFile(folder / "a", {});
+    const tests::TemporaryFolder folder;
+    writeFile(folder.path("a"), {});
     FinderFileStore store({.calls = finderFileCalls()});
-    EXPECT_EQ(store.setFinderInformation(folder / "a", kText), 0);
-    EXPECT_EQ(store.finderInformation(folder / "a").information, kText);
+    EXPECT_EQ(store.setFinderInformation(folder.path("a"), kText), 0);
+    EXPECT_EQ(store.finderInformation(folder.path("a")).information, kText);
 
-    const auto created = finderFileCalls().creationTime(folder / "a");
+    const auto created = finderFileCalls().creationTime(folder.path("a"));
     EXPECT_LE(created, std::time(nullptr));
     EXPECT_GT(created, std::time(nullptr) - 3600);
-    EXPECT_EQ(finderFileCalls().creationTime(folder / "none"), 0);
+    EXPECT_EQ(finderFileCalls().creationTime(folder.path("none")), 0);
 }
 
 TEST(FinderFileCalls, AnAttributeIsNeverWrittenThroughASymbolicLink) {
-    const TemporaryFolder folder;
-    writeFile(folder / "a", {});
-    std::filesystem::create_symlink("a", folder / "link");
-    EXPECT_NE(finderFileCalls().writeAttribute(folder / "link", bytesWith(bytesOf("TEXT"))), 0);
-    EXPECT_FALSE(finderFileCalls().readAttribute(folder / "a"));
+    const tests::TemporaryFolder folder;
+    writeFile(folder.path("a"), {});
+    std::filesystem::create_symlink("a", folder.path("link"));
+    EXPECT_NE(finderFileCalls().writeAttribute(folder.path("link"), bytesWith(bytesOf("TEXT"))), 0);
+    EXPECT_FALSE(finderFileCalls().readAttribute(folder.path("a")));
 }
 
 } // namespace

@@ -5,7 +5,7 @@ scrivel_test(macfiles_test
     MacRomanTest.cpp
     ResourceForkTest.cpp
     VersionResourceTest.cpp
-    LINKS scrivel_macfiles
+    LINKS scrivel_macfiles scrivel_cp
 )
 if(TARGET scrivel_finderfiles)
     scrivel_test(finderfiles_test

@@ -2,6 +2,8 @@
 
 #include <gtest/gtest.h>
 
+#include "cp/private/MacTables.h"
+
 namespace formats {
 namespace {
 
@@ -15,6 +17,14 @@ TEST(MacRoman, EveryByteComesBackTheSame) {
     for (int byte = 1; byte < 256; ++byte)
         all += static_cast<char>(byte);
     EXPECT_EQ(macRomanOf(utf8OfMacRoman(all), 255), all);
+}
+
+// Neither room may include the other, so both keep the table.
+TEST(MacRoman, TheCharactersAreThoseOfTheSupportLibrary) {
+    for (unsigned byte = 0; byte < 256; ++byte)
+        EXPECT_EQ(utf16Of(utf8OfMacRoman(std::string(1, static_cast<char>(byte)))),
+                  std::u16string(1, Corvaldine::CP::Private::kMacRomanCharacters[byte]))
+            << byte;
 }
 
 TEST(MacRoman, ACharacterItDoesNotHaveBecomesOneQuestionMark) {

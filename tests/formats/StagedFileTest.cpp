@@ -6,32 +6,31 @@
 #include <sys/stat.h>
 
 #include "tests/formats/BytesInTests.h"
-#include "tests/formats/TemporaryFolder.h"
+#include "tests/support/TemporaryFolder.h"
 
 namespace posix {
 namespace {
 
 using formats::testing::bytesOf;
 using formats::testing::readFile;
-using formats::testing::TemporaryFolder;
 using formats::testing::writeFile;
 using Names = std::vector<std::string>;
 
 TEST(StagedFile, WhatIsWrittenShowsOnlyWhenItIsCommitted) {
-    const TemporaryFolder folder;
-    StagedFile file(folder / "a");
+    const tests::TemporaryFolder folder;
+    StagedFile file(folder.path("a"));
     ASSERT_EQ(file.write(bytesOf("new")), 0);
-    EXPECT_FALSE(std::filesystem::exists(folder / "a"));
+    EXPECT_FALSE(std::filesystem::exists(folder.path("a")));
     ASSERT_EQ(file.commit(), 0);
-    EXPECT_EQ(readFile(folder / "a"), bytesOf("new"));
+    EXPECT_EQ(readFile(folder.path("a")), bytesOf("new"));
     file.keep();
     EXPECT_EQ(folder.names(), Names{"a"});
 }
 
 TEST(StagedFile, WhatIsNotCommittedLeavesNothing) {
-    const TemporaryFolder folder;
+    const tests::TemporaryFolder folder;
     {
-        StagedFile file(folder / "a");
+        StagedFile file(folder.path("a"));
         ASSERT_EQ(file.write(bytesOf("new")), 0);
         EXPECT_EQ(folder.names().size(), 1u);
     }
@@ -39,54 +38,54 @@ TEST(StagedFile, WhatIsNotCommittedLeavesNothing) {
 }
 
 TEST(StagedFile, WhatIsNotKeptIsTakenBack) {
-    const TemporaryFolder folder;
-    writeFile(folder / "old", bytesOf("old"));
+    const tests::TemporaryFolder folder;
+    writeFile(folder.path("old"), bytesOf("old"));
     for (const char* name : {"old", "fresh"}) {
-        StagedFile file(folder / name);
+        StagedFile file(folder.path(name));
         ASSERT_EQ(file.write(bytesOf("new")), 0);
         ASSERT_EQ(file.commit(), 0);
-        EXPECT_EQ(readFile(folder / name), bytesOf("new"));
+        EXPECT_EQ(readFile(folder.path(name)), bytesOf("new"));
     }
-    EXPECT_EQ(readFile(folder / "old"), bytesOf("old"));
+    EXPECT_EQ(readFile(folder.path("old")), bytesOf("old"));
     EXPECT_EQ(folder.names(), Names{"old"});
 }
 
 TEST(StagedFile, AReplacedFileHandsOnItsMode) {
-    const TemporaryFolder folder;
-    writeFile(folder / "a", bytesOf("old"));
-    ASSERT_EQ(::chmod((folder / "a").c_str(), 0640), 0);
-    StagedFile file(folder / "a");
+    const tests::TemporaryFolder folder;
+    writeFile(folder.path("a"), bytesOf("old"));
+    ASSERT_EQ(::chmod(folder.path("a").c_str(), 0640), 0);
+    StagedFile file(folder.path("a"));
     ASSERT_EQ(file.write(bytesOf("new")), 0);
     ASSERT_EQ(file.commit(), 0);
     file.keep();
     struct stat facts{};
-    ASSERT_EQ(::stat((folder / "a").c_str(), &facts), 0);
+    ASSERT_EQ(::stat(folder.path("a").c_str(), &facts), 0);
     EXPECT_EQ(facts.st_mode & 07777u, 0640u);
     EXPECT_EQ(folder.names(), Names{"a"});
 }
 
 TEST(StagedFile, ASymbolicLinkIsReplacedAndNotFollowed) {
-    const TemporaryFolder folder;
-    writeFile(folder / "target", bytesOf("target"));
-    std::filesystem::create_symlink("target", folder / "a");
+    const tests::TemporaryFolder folder;
+    writeFile(folder.path("target"), bytesOf("target"));
+    std::filesystem::create_symlink("target", folder.path("a"));
     for (const bool keep : {false, true}) {
-        StagedFile file(folder / "a");
+        StagedFile file(folder.path("a"));
         ASSERT_EQ(file.write(bytesOf("new")), 0);
         ASSERT_EQ(file.commit(), 0);
-        EXPECT_FALSE(std::filesystem::is_symlink(folder / "a"));
+        EXPECT_FALSE(std::filesystem::is_symlink(folder.path("a")));
         if (keep)
             file.keep();
     }
-    EXPECT_EQ(readFile(folder / "a"), bytesOf("new"));
-    EXPECT_EQ(readFile(folder / "target"), bytesOf("target"));
+    EXPECT_EQ(readFile(folder.path("a")), bytesOf("new"));
+    EXPECT_EQ(readFile(folder.path("target")), bytesOf("target"));
     EXPECT_EQ(folder.names(), (Names{"a", "target"}));
 }
 
 TEST(StagedFile, AFolderInTheWayStays) {
-    const TemporaryFolder folder;
-    std::filesystem::create_directory(folder / "a");
+    const tests::TemporaryFolder folder;
+    std::filesystem::create_directory(folder.path("a"));
     {
-        StagedFile file(folder / "a");
+        StagedFile file(folder.path("a"));
         ASSERT_EQ(file.write(bytesOf("new")), 0);
         EXPECT_EQ(file.commit(), EISDIR);
     }
@@ -94,8 +93,8 @@ TEST(StagedFile, AFolderInTheWayStays) {
 }
 
 TEST(StagedFile, AMissingFolderIsTold) {
-    const TemporaryFolder folder;
-    StagedFile file(folder / "none/a");
+    const tests::TemporaryFolder folder;
+    StagedFile file(folder.path("none/a"));
     EXPECT_EQ(file.write(bytesOf("new")), ENOENT);
 }
 

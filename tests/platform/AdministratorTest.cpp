@@ -11,7 +11,7 @@
 #include "platform/posix/FileTextStreams.h"
 #include "platform/posix/SudoAdministrator.h"
 #include "tests/fakes/FakeAdministrator.h"
-#include "tests/platform/TemporaryFolder.h"
+#include "tests/support/TemporaryFolder.h"
 
 namespace {
 
@@ -51,9 +51,9 @@ struct SudoHost {
     }
     ToolCall missingTool() { return {folder.path("no tool"), {}}; }
     void refuse() { folder.write("refuse", ""); }
-    std::string calls() { return TemporaryFolder::read(folder.path("calls")); }
+    std::string calls() { return folder.read("calls"); }
 
-    TemporaryFolder folder;
+    tests::TemporaryFolder folder;
     posix::FileTextStreams streams;
     SudoAdministrator administrator{{.sudo = folder.path("sudo"), .isRoot = false}};
 };

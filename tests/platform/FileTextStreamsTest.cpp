@@ -9,34 +9,34 @@
 #include <vector>
 
 #include "platform/posix/ProcessSystem.h"
-#include "tests/platform/TemporaryFolder.h"
+#include "tests/support/TemporaryFolder.h"
 
 namespace {
 
 using posix::FileTextStreams;
 
 TEST(FileTextStreams, AppendingMakesTheFileWithTheUsersUsualRights) {
-    const TemporaryFolder folder;
+    const tests::TemporaryFolder folder;
     const mode_t before = ::umask(022);
     EXPECT_TRUE(FileTextStreams().append(folder.path("log"), "one\n"));
     ::umask(before);
-    EXPECT_EQ(TemporaryFolder::read(folder.path("log")), "one\n");
+    EXPECT_EQ(folder.read("log"), "one\n");
     EXPECT_EQ(std::filesystem::status(folder.path("log")).permissions(),
               std::filesystem::perms(0644));
 }
 
 TEST(FileTextStreams, AppendingNeverDisturbsWhatStandsThere) {
-    const TemporaryFolder folder;
+    const tests::TemporaryFolder folder;
     const std::string file = folder.write("log", "before\n");
     FileTextStreams streams;
     EXPECT_TRUE(streams.append(file, "one\n"));
     EXPECT_TRUE(streams.append(file, ""));
     EXPECT_TRUE(streams.append(file, std::string("t\0o\n", 4)));
-    EXPECT_EQ(TemporaryFolder::read(file), std::string("before\none\nt\0o\n", 15));
+    EXPECT_EQ(tests::contentsOf(file), std::string("before\none\nt\0o\n", 15));
 }
 
 TEST(FileTextStreams, AFolderInThePlaceOfTheFileIsRefused) {
-    const TemporaryFolder folder;
+    const tests::TemporaryFolder folder;
     EXPECT_FALSE(FileTextStreams().append(folder.path(), "one\n"));
     EXPECT_FALSE(FileTextStreams().append(folder.path("no/log"), "one\n"));
     EXPECT_FALSE(std::filesystem::exists(folder.path("no")));
@@ -47,7 +47,7 @@ TEST(FileTextStreams, AFullDiskIsRefused) {
 }
 
 TEST(FileTextStreams, LinesFromManyThreadsStayWhole) {
-    const TemporaryFolder folder;
+    const tests::TemporaryFolder folder;
     constexpr int kLines = 200;
     std::vector<std::thread> threads;
     for (char letter : {'a', 'b', 'c', 'd'})

@@ -10,7 +10,7 @@
 #include <vector>
 
 #include "platform/posix/PlistReader.h"
-#include "tests/platform/TemporaryFolder.h"
+#include "tests/support/TemporaryFolder.h"
 
 namespace {
 
@@ -175,7 +175,7 @@ TEST(PlistReader, ASharedObjectThatStaysSmallIsFine) {
 }
 
 TEST(PlistReader, AnythingButARegularFileIsRefused) {
-    const TemporaryFolder folder;
+    const tests::TemporaryFolder folder;
     ASSERT_EQ(::mkfifo(folder.path("pipe").c_str(), 0600), 0);
     EXPECT_FALSE(PlistReader::readFile(folder.path("pipe")));
     EXPECT_FALSE(PlistReader::readFile(folder.path()));
@@ -183,7 +183,7 @@ TEST(PlistReader, AnythingButARegularFileIsRefused) {
 }
 
 TEST(PlistReader, AFileBeyondSixteenMegabytesIsRefused) {
-    const TemporaryFolder folder;
+    const tests::TemporaryFolder folder;
     const std::string file = folder.write("big", xml("<dict/>"));
     EXPECT_TRUE(PlistReader::readFile(file));
     std::filesystem::resize_file(file, (16 << 20) + 1);
@@ -207,7 +207,7 @@ TEST(PlistReader, CharacterReferencesAreRefusedWhereTheyWouldCostSecondsAndReadE
 }
 
 TEST(PlistBundles, ResourcesLieInTheBundleOfTheExecutable) {
-    const TemporaryFolder folder;
+    const tests::TemporaryFolder folder;
     const std::string executable = folder.writeProgram("X.app/Contents/MacOS/X", "");
     const PlistBundles bundles(executable);
     EXPECT_EQ(bundles.mainExecutable(), executable);
@@ -215,7 +215,7 @@ TEST(PlistBundles, ResourcesLieInTheBundleOfTheExecutable) {
 }
 
 TEST(PlistBundles, ALinkToTheExecutableLeadsToItsBundle) {
-    const TemporaryFolder folder;
+    const tests::TemporaryFolder folder;
     const std::string executable = folder.writeProgram("X.app/Contents/MacOS/X", "");
     std::filesystem::create_symlink(executable, folder.path("starter"));
     EXPECT_EQ(PlistBundles(folder.path("starter")).mainResourceFolder(),
@@ -223,13 +223,13 @@ TEST(PlistBundles, ALinkToTheExecutableLeadsToItsBundle) {
 }
 
 TEST(PlistBundles, AnExecutableOutsideABundleHasItsResourcesBesideIt) {
-    const TemporaryFolder folder;
+    const tests::TemporaryFolder folder;
     const std::string executable = folder.writeProgram("bin/X", "");
     EXPECT_EQ(PlistBundles(executable).mainResourceFolder(), folder.path("bin"));
 }
 
 TEST(PlistBundles, ABrokenInformationDictionaryIsAsGoodAsNone) {
-    const TemporaryFolder folder;
+    const tests::TemporaryFolder folder;
     folder.write("X.app/Contents/Info.plist", "<plist><dict><key>a</key>");
     PlistBundles bundles("/bin/true");
     EXPECT_EQ(bundles.infoString(folder.path("X.app"), "a"), std::nullopt);

@@ -19,7 +19,7 @@
 #include "tests/fakes/FakeLocalizedTexts.h"
 #include "tests/fakes/FakeQueues.h"
 #include "tests/fakes/FakeTextStreams.h"
-#include "tests/platform/TemporaryFolder.h"
+#include "tests/support/TemporaryFolder.h"
 
 namespace {
 
@@ -31,7 +31,7 @@ std::string dictionary(const std::string& body) {
 // --- Text streams
 
 struct RealStreams {
-    std::string contents(const std::string& path) { return TemporaryFolder::read(path); }
+    std::string contents(const std::string& path) { return tests::contentsOf(path); }
     std::string goodPath() { return folder.path("log"); }
     std::string badPath() { return folder.path("missing/log"); }
     int feed(const std::string& bytes) {
@@ -41,7 +41,7 @@ struct RealStreams {
         pipe.writing.close();
         return pipe.reading.number();
     }
-    TemporaryFolder folder;
+    tests::TemporaryFolder folder;
     posix::Pipe pipe;
     posix::FileTextStreams streams;
 };
@@ -95,7 +95,7 @@ struct RealBundles {
                      dictionary("<key>" + key + "</key><string>" + value + "</string>"));
     }
     std::string path(const std::string& name) { return folder.path(name); }
-    TemporaryFolder folder;
+    tests::TemporaryFolder folder;
     posix::PlistBundles bundles{folder.writeProgram("I.app/Contents/MacOS/I", "")};
 };
 
@@ -148,7 +148,7 @@ struct RealTexts {
             .resourceFolder = folder.path(), .languages = {"de_AT.UTF-8"}});
         return *texts;
     }
-    TemporaryFolder folder;
+    tests::TemporaryFolder folder;
     std::unique_ptr<posix::StringsFileTexts> texts;
 };
 

@@ -22,7 +22,7 @@
 #include "platform/posix/ChildProcess.h"
 #include "platform/posix/PlistBundles.h"
 #include "tests/fakes/FakeApplications.h"
-#include "tests/platform/TemporaryFolder.h"
+#include "tests/support/TemporaryFolder.h"
 
 namespace {
 
@@ -70,7 +70,7 @@ class ApplicationsTest : public testing::Test {
         return program;
     }
 
-    TemporaryFolder folder;
+    tests::TemporaryFolder folder;
     posix::PlistBundles bundles{"/bin/true"};
     ProcApplications applications{
         {.bundles = bundles, .root = folder.path(), .home = folder.path("home")}};
@@ -218,7 +218,7 @@ class LaunchTest : public ApplicationsTest {
 TEST_F(LaunchTest, AnApplicationIsStartedInASessionOfItsOwnWithTheUsersHome) {
     ASSERT_TRUE(applications.launch(application("X.app", {}, "X")));
     ASSERT_TRUE(hasRun());
-    std::istringstream facts(TemporaryFolder::read(folder.path("facts")));
+    std::istringstream facts(folder.read("facts"));
     std::string home;
     std::string workingFolder;
     int session = 0;
@@ -243,7 +243,7 @@ TEST_F(LaunchTest, OutputsThatAreNoTerminalAreKeptFromTheApplication) {
         ::close(descriptor);
     ASSERT_TRUE(launched);
     ASSERT_TRUE(hasRun());
-    const std::string facts = TemporaryFolder::read(folder.path("facts"));
+    const std::string facts = folder.read("facts");
     EXPECT_EQ(facts.find("pipe:"), std::string::npos) << facts;
     EXPECT_TRUE(hasNoChild());
 }
@@ -296,7 +296,7 @@ struct RealApplications {
         fs::copy_file("/bin/sleep", folder.path("R.app/Contents/MacOS/R"));
         running = std::make_unique<Running>(folder.path("R.app/Contents/MacOS/R"));
     }
-    TemporaryFolder folder;
+    tests::TemporaryFolder folder;
     std::unique_ptr<Running> running;
     posix::PlistBundles bundles{"/bin/true"};
     ProcApplications applications{{.bundles = bundles, .root = folder.path(), .home = "/"}};

@@ -18,7 +18,7 @@
 #include <vector>
 
 #include "platform/ports/PlatformError.h"
-#include "tests/platform/TemporaryFolder.h"
+#include "tests/support/TemporaryFolder.h"
 
 namespace {
 
@@ -92,7 +92,7 @@ class ToolsTest : public testing::Test {
         EXPECT_EQ(openDescriptors(), m_descriptors);
     }
     SpawnedTools tools{{}};
-    TemporaryFolder folder;
+    tests::TemporaryFolder folder;
 
   private:
     std::size_t m_descriptors = openDescriptors();

@@ -7,7 +7,7 @@
 #include "platform/posix/ProcessSystem.h"
 #include "platform/posix/StandardSystemLog.h"
 #include "platform/posix/StringsFileTexts.h"
-#include "tests/platform/TemporaryFolder.h"
+#include "tests/support/TemporaryFolder.h"
 
 namespace {
 
@@ -25,7 +25,7 @@ class StringsFileTextsTest : public testing::Test {
                    {.resourceFolder = folder.path("resources"), .languages = std::move(languages)})
             .lookUp("Yes");
     }
-    TemporaryFolder folder;
+    tests::TemporaryFolder folder;
 };
 
 TEST_F(StringsFileTextsTest, TheNearestTableOfTheDearestLanguageIsTaken) {

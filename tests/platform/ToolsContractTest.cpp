@@ -8,7 +8,7 @@
 #include "platform/posix/FileTextStreams.h"
 #include "platform/posix/SpawnedTools.h"
 #include "tests/fakes/FakeTools.h"
-#include "tests/platform/TemporaryFolder.h"
+#include "tests/support/TemporaryFolder.h"
 
 namespace {
 
@@ -24,7 +24,7 @@ class RealTools {
     }
     ToolCall toolThatCannotStart() { return {folder.path("no tool"), {}}; }
 
-    TemporaryFolder folder;
+    tests::TemporaryFolder folder;
     posix::FileTextStreams streams;
     posix::SpawnedTools tools{{}};
 };

@@ -59,7 +59,7 @@ TEST_F(Chflags, AnythingElseIsAnsweredWithTheUsage) {
 class ChflagsAsAdministrator : public AdministratorToolTest {
   protected:
     void TearDown() override {
-        if (!m_folder.empty())
+        if (isRoot())
             run({"chattr", "-R", "-i", "d"});
         AdministratorToolTest::TearDown();
     }

@@ -73,8 +73,8 @@ TEST_F(DittoExtraction, GivesTheTreeThatUnzipGives) {
     const Outcome outcome = unpack();
     EXPECT_EQ(outcome.status, 0);
     EXPECT_EQ(outcome.output, "");
-    auto expected = listing(at("expected"), Times::Seconds);
-    auto got = listing(at("out"), Times::Seconds);
+    auto expected = listing(at("expected"), Times::seconds);
+    auto got = listing(at("out"), Times::seconds);
     // unzip leaves a link the time of its making.
     const auto isLink = [](const std::string& line) { return line.find(" 12") != line.npos; };
     EXPECT_EQ(std::erase_if(expected, isLink), 2u);

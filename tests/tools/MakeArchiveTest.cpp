@@ -33,7 +33,7 @@ TEST_F(MakeArchive, UnzipAndDittoGiveTheTreeBack) {
     ASSERT_EQ(run({"unzip", "-q", "a.zip", "-d", "unzipped"}).status, 0);
     ASSERT_EQ(unpack("a.zip", "out").status, 0);
     EXPECT_EQ(run({"diff", "-r", "in", "unzipped"}).output, "");
-    EXPECT_EQ(listing(at("out"), Times::Seconds), listing(at("in"), Times::Seconds));
+    EXPECT_EQ(listing(at("out"), Times::seconds), listing(at("in"), Times::seconds));
 }
 
 TEST_F(MakeArchive, TheSameTreeGivesTheSameBytes) {

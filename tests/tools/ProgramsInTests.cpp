@@ -2,9 +2,7 @@
 
 #include <algorithm>
 #include <cstdlib>
-#include <fstream>
 #include <functional>
-#include <iterator>
 #include <sstream>
 
 #include <sys/mount.h>
@@ -50,11 +48,6 @@ Outcome run(const std::vector<std::string>& command, const fs::path& folder,
     return outcome;
 }
 
-std::string contentsOf(const fs::path& path) {
-    std::ifstream file(path, std::ios::binary);
-    return {std::istreambuf_iterator<char>(file), std::istreambuf_iterator<char>()};
-}
-
 std::vector<std::string> listing(const fs::path& top, Times times) {
     std::vector<std::string> lines;
     const auto add = [&](const fs::path& path) {
@@ -63,7 +56,7 @@ std::vector<std::string> listing(const fs::path& top, Times times) {
         std::ostringstream line;
         line << path.lexically_relative(top).string() << ' ' << std::oct << status.st_mode
              << std::dec << ' ' << status.st_mtim.tv_sec;
-        if (times == Times::Nanoseconds)
+        if (times == Times::nanoseconds)
             line << '.' << status.st_mtim.tv_nsec << ' ' << status.st_nlink;
         if (S_ISLNK(status.st_mode))
             line << " -> " << fs::read_symlink(path).string();
@@ -77,24 +70,6 @@ std::vector<std::string> listing(const fs::path& top, Times times) {
         add(entry.path());
     std::ranges::sort(lines);
     return lines;
-}
-
-void ToolTest::SetUp() {
-    std::string pattern = (fs::temp_directory_path() / "tools-test.XXXXXX").string();
-    ASSERT_NE(::mkdtemp(pattern.data()), nullptr);
-    m_folder = pattern;
-    // Others go in, too: a test may run a tool with fewer rights.
-    fs::permissions(m_folder, fs::perms::all);
-}
-
-void ToolTest::TearDown() {
-    testing::run({"chmod", "-R", "u+rwX", m_folder.string()}, "/");
-    fs::remove_all(m_folder);
-}
-
-void ToolTest::write(const std::string& path, const std::string& contents) const {
-    fs::create_directories(at(path).parent_path());
-    std::ofstream(at(path), std::ios::binary) << contents;
 }
 
 Outcome ToolTest::ditto(const std::string& from, const std::string& to) const {
@@ -112,14 +87,11 @@ bool ToolTest::isRoot() {
 void AdministratorToolTest::SetUp() {
     if (!isRoot())
         GTEST_SKIP() << "needs the administrator's rights";
-    ToolTest::SetUp();
 }
 
 void AdministratorToolTest::TearDown() {
     if (m_isMounted)
         ::umount2(at("disk").c_str(), MNT_DETACH);
-    if (!m_folder.empty())
-        ToolTest::TearDown();
 }
 
 bool AdministratorToolTest::mountDisk(int kilobytes) {

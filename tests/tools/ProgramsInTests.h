@@ -7,7 +7,11 @@
 
 #include <gtest/gtest.h>
 
+#include "tests/support/TemporaryFolder.h"
+
 namespace tools::testing {
+
+using tests::contentsOf;
 
 struct Outcome {
     int status = 0;     ///< 128 + N after death by signal N
@@ -20,30 +24,31 @@ Outcome run(const std::vector<std::string>& command, const std::filesystem::path
 
 /// One line for each item below `top` in order: kind, mode, size, time, path, and the target or a
 /// sum of the contents. Times in nanoseconds or, from archives, in seconds.
-enum class Times { Nanoseconds, Seconds };
+enum class Times { nanoseconds, seconds };
 std::vector<std::string> listing(const std::filesystem::path& top,
-                                 Times times = Times::Nanoseconds);
-
-std::string contentsOf(const std::filesystem::path& path);
+                                 Times times = Times::nanoseconds);
 
 /// Gives each test a folder of its own, which is gone after it.
 class ToolTest : public ::testing::Test {
   protected:
-    void SetUp() override;
-    void TearDown() override;
+    /// Others may use the folder, too: a test may run a tool with fewer rights.
+    ToolTest() { std::filesystem::permissions(m_folder.path(), std::filesystem::perms::all); }
 
-    std::filesystem::path at(const std::string& path) const { return m_folder / path; }
+    std::filesystem::path at(const std::string& path) const { return m_folder.path(path); }
     /// Writes a file, making its folders.
-    void write(const std::string& path, const std::string& contents) const;
+    void write(const std::string& path, const std::string& contents) const {
+        m_folder.write(path, contents);
+    }
     Outcome run(const std::vector<std::string>& command,
                 const std::vector<std::string>& environment = {}) const {
-        return testing::run(command, m_folder, environment);
+        return testing::run(command, m_folder.path(), environment);
     }
     Outcome ditto(const std::string& from, const std::string& to) const;
     Outcome unpack(const std::string& archive, const std::string& to) const;
     static bool isRoot();
 
-    std::filesystem::path m_folder;
+  private:
+    const tests::TemporaryFolder m_folder;
 };
 
 /// What only the administrator can set up.

@@ -1,15 +1,13 @@
 #include "wizard/InstallLog.h"
 
-#include <cstdlib>
 #include <filesystem>
-#include <fstream>
-#include <sstream>
 
 #include <gmock/gmock.h>
 #include <gtest/gtest.h>
 
 #include "platform/posix/FileTextStreams.h"
 #include "tests/fakes/FakeHost.h"
+#include "tests/support/TemporaryFolder.h"
 #include "wizard/ecController.h"
 
 namespace {
@@ -127,11 +125,10 @@ TEST_F(InstallLogTest, WithoutAHomeFolderNothingIsWrittenIntoTheSystem) {
 }
 
 TEST(InstallLogOnDisk, AMissingLogsFolderIsNotMade) {
-    std::string name = (std::filesystem::temp_directory_path() / "scrivel-log-XXXXXX").string();
-    const std::filesystem::path home = mkdtemp(name.data());
+    const tests::TemporaryFolder home;
     fakes::FakeHost host;
     posix::FileTextStreams streams;
-    const ports::SystemPlaces places{.root = "", .home = home.string(), .temporary = "/tmp"};
+    const ports::SystemPlaces places{.root = "", .home = home.path(), .temporary = "/tmp"};
     controls::TextField processingText;
     ec::InstallLog log({.places = places,
                         .clock = host.clock,
@@ -139,15 +136,13 @@ TEST(InstallLogOnDisk, AMissingLogsFolderIsNotMade) {
                         .processingText = processingText,
                         .written = {}});
     log.logMessage("nothing comes of it");
-    EXPECT_FALSE(std::filesystem::exists(home / "Library"));
+    EXPECT_FALSE(std::filesystem::exists(home.path("Library")));
 
-    std::filesystem::create_directories(home / "Library/Logs");
+    std::filesystem::create_directories(home.path("Library/Logs"));
     log.logMessage("first");
     log.logMessage("second");
-    std::ostringstream text;
-    text << std::ifstream(home / "Library/Logs/Scrivel 21 Stub Install.log").rdbuf();
-    EXPECT_EQ(text.str(), "2024-02-03 04:05:06 +0000 first\n2024-02-03 04:05:06 +0000 second\n");
-    std::filesystem::remove_all(home);
+    EXPECT_EQ(home.read("Library/Logs/Scrivel 21 Stub Install.log"),
+              "2024-02-03 04:05:06 +0000 first\n2024-02-03 04:05:06 +0000 second\n");
 }
 
 } // namespace

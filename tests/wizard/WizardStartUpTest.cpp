@@ -1,31 +1,24 @@
 #include "wizard/ecController.h"
 
-#include <cstdlib>
 #include <filesystem>
 
 #include <gtest/gtest.h>
 
 #include "tests/fakes/FakeHost.h"
+#include "tests/support/TemporaryFolder.h"
 
 namespace {
 
 namespace fs = std::filesystem;
 
-/// A folder of the test's own.
-fs::path freshFolder() {
-    std::string name = (fs::temp_directory_path() / "scrivel-test-XXXXXX").string();
-    return mkdtemp(name.data());
-}
-
 struct WizardStartUpTest : testing::Test {
-    fs::path folder = freshFolder();
+    tests::TemporaryFolder folder;
     fakes::FakeHost host;
     void SetUp() override {
-        fs::create_directories(folder / "resources");
-        host.bundles.resourceFolder = (folder / "resources").string();
+        fs::create_directories(folder.path("resources"));
+        host.bundles.resourceFolder = folder.path("resources");
         host.bundles.executable = "/Volumes/Scrivel 21/Installer.app/Contents/MacOS/Installer";
     }
-    void TearDown() override { fs::remove_all(folder); }
 };
 
 TEST_F(WizardStartUpTest, ThePlainStartFillsTheFieldsFromTheBundle) {
@@ -52,25 +45,25 @@ TEST_F(WizardStartUpTest, TheHomeDirectoryIsTheUsers) {
 
 TEST_F(WizardStartUpTest, AnExecutableOutsideTheVolumeIsOnNoDiskImageAndTheDiskIsNotTouched) {
     host.bundles.executable = "/Applications/Volumes/Scrivel/Installer";
-    fs::permissions(folder / "resources", fs::perms::none);
+    fs::permissions(folder.path("resources"), fs::perms::none);
     EXPECT_FALSE(ec::ecController(host.host()).isOnDiskImage());
-    fs::permissions(folder / "resources", fs::perms::owner_all);
-    EXPECT_TRUE(fs::is_empty(folder / "resources"));
+    fs::permissions(folder.path("resources"), fs::perms::owner_all);
+    EXPECT_TRUE(fs::is_empty(folder.path("resources")));
 }
 
 TEST_F(WizardStartUpTest, AWritableVolumeIsNoDiskImageAndKeepsNoTrace) {
     EXPECT_FALSE(ec::ecController(host.host()).isOnDiskImage());
-    EXPECT_TRUE(fs::is_empty(folder / "resources"));
+    EXPECT_TRUE(fs::is_empty(folder.path("resources")));
 }
 
 TEST_F(WizardStartUpTest, AVolumeThatTakesNoFileIsTheDiskImage) {
-    host.bundles.resourceFolder = (folder / "missing").string();
+    host.bundles.resourceFolder = folder.path("missing");
     EXPECT_TRUE(ec::ecController(host.host()).isOnDiskImage());
 }
 
 TEST_F(WizardStartUpTest, TheVolumeIsLookedForUnderTheRoot) {
     host.places.root = "/elsewhere";
-    host.bundles.resourceFolder = (folder / "missing").string();
+    host.bundles.resourceFolder = folder.path("missing");
     EXPECT_FALSE(ec::ecController(host.host()).isOnDiskImage());
     host.bundles.executable = "/elsewhere/Volumes/Scrivel/Installer";
     EXPECT_TRUE(ec::ecController(host.host()).isOnDiskImage());

@@ -64,7 +64,7 @@ bool FlagChange::change(int folder, const char* name) {
     struct statx status{};
     checked(::statx(folder, name, AT_SYMLINK_NOFOLLOW | AT_NO_AUTOMOUNT, STATX_TYPE, &status));
     const bool isFolder = S_ISDIR(status.stx_mode);
-    const bool wanted = m_to == To::Immutable;
+    const bool wanted = m_to == To::immutable;
     // Most file systems tell here, so that nothing has to be opened.
     const bool isTold = (status.stx_attributes_mask & STATX_ATTR_IMMUTABLE) != 0;
     if (isTold && ((status.stx_attributes & STATX_ATTR_IMMUTABLE) != 0) == wanted)

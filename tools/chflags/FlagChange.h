@@ -13,7 +13,7 @@ namespace tools {
 
 class FlagChange {
   public:
-    enum class To { Immutable, Changeable };
+    enum class To { immutable, changeable };
 
     FlagChange(To to, Complaints& complaints) : m_to(to), m_complaints(complaints) {}
 

@@ -17,8 +17,8 @@ int main(int argc, char** argv) {
         return 1;
     }
     tools::Complaints complaints("chflags");
-    FlagChange change(arguments[0] == "uchg" ? FlagChange::To::Immutable
-                                             : FlagChange::To::Changeable,
+    FlagChange change(arguments[0] == "uchg" ? FlagChange::To::immutable
+                                             : FlagChange::To::changeable,
                       complaints);
     for (auto path = arguments.begin() + 1; path != arguments.end(); ++path)
         if (wholeTree)

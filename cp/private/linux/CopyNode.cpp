@@ -1,5 +1,6 @@
 #include "cp/private/linux/CopyNode.h"
 
+#include <algorithm>
 #include <array>
 #include <cerrno>
 #include <cstddef>
@@ -86,8 +87,9 @@ bool copyAttributes(int from, int to, bool (*belongs)(std::string_view)) {
     if (length < 0)
         return false;
     const std::string_view all(names.data(), static_cast<std::size_t>(length));
-    for (std::size_t at = 0; at < all.size(); at = all.find('\0', at) + 1) {
-        const std::string name(all.substr(at).data());
+    for (std::size_t at = 0, end = 0; at < all.size(); at = end + 1) {
+        end = std::min(all.find('\0', at), all.size());
+        const std::string name(all.substr(at, end - at));
         if (belongs(name) && !copyAttribute(from, to, name.c_str()))
             return false;
     }
@@ -97,7 +99,7 @@ bool copyAttributes(int from, int to, bool (*belongs)(std::string_view)) {
 bool copyRegularFile(int fromFolder, const char* fromName, int toFolder, const char* toName) {
     const FileDescriptor from(
         ::openat(fromFolder, fromName, O_RDONLY | O_NOFOLLOW | O_NONBLOCK | O_CLOEXEC));
-    struct stat status;
+    struct stat status{};
     // What was a file when it was looked at may have become something else.
     if (!from.isOpen() || ::fstat(from.number(), &status) != 0 || !S_ISREG(status.st_mode))
         return false;
@@ -129,7 +131,7 @@ bool copyLink(int fromFolder, const char* fromName, int toFolder, const char* to
 } // namespace
 
 bool copy_metadata(int from, int to) {
-    struct stat status;
+    struct stat status{};
     if (::fstat(from, &status) != 0)
         return false;
     mode_t mode = status.st_mode & 07777;
@@ -144,7 +146,7 @@ bool copy_metadata(int from, int to) {
 }
 
 bool copy_node(int fromFolder, const char* fromName, int toFolder, const char* toName) {
-    struct stat status;
+    struct stat status{};
     if (::fstatat(fromFolder, fromName, &status, AT_SYMLINK_NOFOLLOW) != 0)
         return false;
     if (S_ISREG(status.st_mode))

@@ -10,7 +10,7 @@ namespace Corvaldine::CP::Private {
 
 namespace {
 
-constexpr const char* kRootVolume = "root";
+constexpr const char* kNameOfRoot = "File System"; // as FinderFileStore calls it in aliases
 
 // The kernel writes blanks, line ends and backslashes in a mount point as "\" and three octal
 // digits.
@@ -52,7 +52,7 @@ std::string volume_name(const std::string& path) {
             best = mountPoint;
     }
     const std::size_t separator = best.rfind('/');
-    return separator == std::string::npos || best == "/" ? kRootVolume : best.substr(separator + 1);
+    return separator == std::string::npos || best == "/" ? kNameOfRoot : best.substr(separator + 1);
 }
 
 } // namespace Corvaldine::CP::Private

@@ -25,7 +25,7 @@ std::vector<std::string> split(std::string_view names) {
 } // namespace
 
 std::vector<std::string> attributeNames(int file) {
-    std::array<char, 1024> buffer;
+    std::array<char, 1024> buffer{};
     ssize_t length = ::flistxattr(file, buffer.data(), buffer.size());
     if (length >= 0)
         return split({buffer.data(), static_cast<std::size_t>(length)});
