@@ -28,13 +28,13 @@ bool standsAt(const fs::path& path, const formats::ZipMember& member) {
     std::error_code failure;
     const auto status = fs::symlink_status(path, failure);
     switch (member.kind) {
-    case formats::ZipKind::File:
+    case formats::ZipKind::file:
         return fs::is_regular_file(status) && fs::file_size(path, failure) == member.size;
-    case formats::ZipKind::Folder:
+    case formats::ZipKind::folder:
         return fs::is_directory(status);
-    case formats::ZipKind::Link:
+    case formats::ZipKind::link:
         return fs::is_symlink(status);
-    case formats::ZipKind::Other:
+    case formats::ZipKind::other:
         return true;
     }
     return true;

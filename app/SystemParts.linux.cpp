@@ -24,7 +24,7 @@ bool hasDisplay() {
     // The last one chooses a platform that may need no display at all.
     constexpr std::array kVariables{"DISPLAY", "WAYLAND_DISPLAY", "QT_QPA_PLATFORM"};
     return std::ranges::any_of(kVariables, [](const char* name) {
-        const char* value = std::getenv(name);
+        const char* value = std::getenv(name); // NOLINT(concurrency-mt-unsafe)
         return value && *value;
     });
 }

@@ -15,7 +15,7 @@ namespace {
 
 /// SCRIVEL_APPEARANCE=dark or light; none: as the desktop has it.
 std::optional<bool> wantedAppearance() {
-    const char* value = std::getenv("SCRIVEL_APPEARANCE");
+    const char* value = std::getenv("SCRIVEL_APPEARANCE"); // NOLINT(concurrency-mt-unsafe)
     const std::string_view wanted = value ? value : "";
     if (wanted == "dark" || wanted == "light")
         return wanted == "dark";

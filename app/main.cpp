@@ -28,7 +28,7 @@ int main(int argc, char** argv) {
     std::signal(SIGPIPE, SIG_IGN);
     if (std::string_view(argv[0]).ends_with("scrivel-askpass"))
         return askPassword(argc, argv);
-    const char* home = std::getenv("HOME");
+    const char* home = std::getenv("HOME"); // NOLINT(concurrency-mt-unsafe)
     const auto parsed = app::parseCommandLine({argv + 1, argv + argc}, home ? home : "");
     std::cout << parsed.output << std::flush;
     std::cerr << parsed.error << std::flush;

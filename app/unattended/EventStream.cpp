@@ -23,7 +23,7 @@ std::string EventStream::line(const Event& event) {
     return event.dump(-1, ' ', false, Event::error_handler_t::replace) + "\n";
 }
 
-void EventStream::emit(std::string_view name, Event members) {
+void EventStream::emit(std::string_view name, const Event& members) {
     Event event = {{"event", name}, {"time", timeText(m_clock.now())}};
     event.update(members);
     if (m_mainQueue.isMainThread())

@@ -32,7 +32,7 @@ class EventStream {
     void addListener(Listener listener) { m_listeners.push_back(std::move(listener)); }
 
     /// Tells every listener the event `name` with these members (an object) and the time.
-    void emit(std::string_view name, Event members);
+    void emit(std::string_view name, const Event& members);
 
     /// The event as one line of JSON Lines. Text that is no UTF-8 is replaced, never refused.
     static std::string line(const Event& event);

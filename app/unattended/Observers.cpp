@@ -72,7 +72,7 @@ void ObservedAlerts::beginSheet(const ports::Alert& alert, controls::Window& win
         members["buttons"] = alert.buttons;
         members["answer"] = alert.buttons.at(static_cast<std::size_t>(code - kFirstButton));
         members["code"] = code;
-        m_events.emit("question", std::move(members));
+        m_events.emit("question", members);
         completion(code);
     });
 }
@@ -97,7 +97,7 @@ void ControlWatcher::controlChanged(controls::Control& control) {
             members["total"] = amount.total;
             members["files"] = amount.files;
         }
-        m_events.emit("progress", std::move(members));
+        m_events.emit("progress", members);
     } else if (m_status.text() != m_lastStatus) {
         m_lastStatus = m_status.text();
         m_events.emit("status", {{"text", m_lastStatus}});

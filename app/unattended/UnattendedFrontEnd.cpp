@@ -37,7 +37,7 @@ void UnattendedFrontEnd::beginSheet(const ports::Alert& alert, controls::Window&
     m_sheet = Sheet{alert, std::move(completion)};
 }
 
-void UnattendedFrontEnd::answer(Sheet sheet) {
+void UnattendedFrontEnd::answer(const Sheet& sheet) {
     const std::size_t index = m_needs.driver.answer(sheet.alert);
     sheet.completion(kFirstButton + static_cast<int>(index));
 }

@@ -44,7 +44,7 @@ class UnattendedFrontEnd final : public ports::InterfaceFiles,
         ports::Alert alert;
         std::function<void(int)> completion;
     };
-    void answer(Sheet sheet);
+    void answer(const Sheet& sheet);
 
     Needs m_needs;
     controls::Interface* m_outlets = nullptr;

@@ -37,7 +37,7 @@ extern "C" int LLVMFuzzerTestOneInput(const std::uint8_t* data, std::size_t size
         require(member.describes == formats::ZipMember::kNone || member.describes < members.size());
         require(member.headerOffset + formats::kZipLocalHeaderLength + member.packedSize <= size);
         require(member.mode <= 0777);
-        total += member.kind == formats::ZipKind::Folder ? 0 : member.size;
+        total += member.kind == formats::ZipKind::folder ? 0 : member.size;
         const auto header = archive.subspan(static_cast<std::size_t>(member.headerOffset))
                                 .first<formats::kZipLocalHeaderLength>();
         if (const auto start = formats::zipDataStart(header, member))

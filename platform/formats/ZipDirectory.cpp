@@ -245,12 +245,12 @@ void ZipDirectoryReader::readMember() {
 
     setKind(member, attributes, system);
     if (endsWithSlash)
-        member.kind = ZipKind::Folder;
-    if (m_name.empty() && member.kind != ZipKind::Folder)
+        member.kind = ZipKind::folder;
+    if (m_name.empty() && member.kind != ZipKind::folder)
         throw ZipRefusal{"a member has no name"};
     if (m_name.empty())
         return; // the top folder itself
-    if (member.kind != ZipKind::Folder)
+    if (member.kind != ZipKind::folder)
         m_directory.m_totalSize += member.size;
     member.path = keep(m_name);
     m_directory.m_members.push_back(member);
@@ -315,7 +315,7 @@ void ZipDirectoryReader::setKind(ZipMember& member, std::uint32_t attributes, st
     const auto mode = static_cast<std::uint16_t>(attributes >> 16);
     const bool onUnix = system == kMadeOnUnix || system == kMadeOnDarwin;
     if (!onUnix || mode == 0) {
-        member.kind = (attributes & kDosFolder) != 0 ? ZipKind::Folder : ZipKind::File;
+        member.kind = (attributes & kDosFolder) != 0 ? ZipKind::folder : ZipKind::file;
         return;
     }
     member.hasMode = true;
@@ -323,16 +323,16 @@ void ZipDirectoryReader::setKind(ZipMember& member, std::uint32_t attributes, st
     switch (mode & kKindMask) {
     case 0:
     case kFileKind:
-        member.kind = ZipKind::File;
+        member.kind = ZipKind::file;
         break;
     case kFolderKind:
-        member.kind = ZipKind::Folder;
+        member.kind = ZipKind::folder;
         break;
     case kLinkKind:
-        member.kind = ZipKind::Link;
+        member.kind = ZipKind::link;
         break;
     default:
-        member.kind = ZipKind::Other;
+        member.kind = ZipKind::other;
     }
 }
 

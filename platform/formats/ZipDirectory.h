@@ -28,10 +28,10 @@
 namespace formats {
 
 enum class ZipKind : std::uint8_t {
-    File,
-    Folder,
-    Link, ///< a symbolic link; its data is the target
-    Other ///< a device, a named pipe, a socket: nothing that an archive should bring
+    file,
+    folder,
+    link, ///< a symbolic link; its data is the target
+    other ///< a device, a named pipe, a socket: nothing that an archive should bring
 };
 
 struct ZipMember {
@@ -49,7 +49,7 @@ struct ZipMember {
     /// It is not a file of its own unless its content turns out to be something else.
     std::uint32_t describes = kNone;
     std::uint16_t mode = 0; ///< permissions, at most 0777; without meaning unless `hasMode`
-    ZipKind kind = ZipKind::File;
+    ZipKind kind = ZipKind::file;
     bool hasMode = false;
     bool deflated = false;
     /// `modified` counts a clock on the wall (a DOS time, steps of two seconds), not UTC.

@@ -51,7 +51,7 @@ void ZipLayout::arrange() {
     for (std::uint32_t i = 0; i < members.size(); ++i) {
         ZipMember& member = members[i];
         member.folder = folderOf(member.path);
-        if (member.kind == ZipKind::Folder)
+        if (member.kind == ZipKind::folder)
             m_directory.m_folders[folder(member.path)].member = i;
         else
             m_places.push_back({sumOf(member.folder, member.name()), i, Place::Member});
@@ -160,7 +160,7 @@ void ZipLayout::findDescribed() {
     if (attributes == m_folderByPath.end())
         return;
     for (ZipMember& member : m_directory.m_members)
-        if (member.kind == ZipKind::File && member.path.starts_with(kAttributesFolder))
+        if (member.kind == ZipKind::file && member.path.starts_with(kAttributesFolder))
             if (const std::string path = describedPath(member.path); !path.empty())
                 member.describes = memberAt(path);
 }

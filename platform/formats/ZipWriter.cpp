@@ -75,9 +75,9 @@ DosTime dosTime(std::int64_t seconds) {
 
 std::uint16_t kindBits(ZipKind kind) {
     switch (kind) {
-    case ZipKind::Folder:
+    case ZipKind::folder:
         return kFolderKind;
-    case ZipKind::Link:
+    case ZipKind::link:
         return kLinkKind;
     default:
         return kFileKind;
@@ -129,7 +129,7 @@ void ZipWriter::write(std::span<const std::byte> bytes) {
 
 void ZipWriter::add(const ZipEntry& entry, std::span<const std::byte> contents) {
     std::span<const std::byte> packed = contents;
-    if (m_compressor != nullptr && entry.kind == ZipKind::File && contents.size() > 1) {
+    if (m_compressor != nullptr && entry.kind == ZipKind::file && contents.size() > 1) {
         // Room for less than the contents only: what doesn't become smaller is stored.
         m_packed.resize(std::max(m_packed.size(), contents.size() - 1));
         const std::size_t length = libdeflate_deflate_compress(
@@ -140,7 +140,7 @@ void ZipWriter::add(const ZipEntry& entry, std::span<const std::byte> contents) 
     const bool deflated = packed.data() != contents.data();
     const auto crc = libdeflate_crc32(0, contents.data(), contents.size());
     const DosTime time = dosTime(entry.modified);
-    const std::string path = entry.kind == ZipKind::Folder ? entry.path + '/' : entry.path;
+    const std::string path = entry.kind == ZipKind::folder ? entry.path + '/' : entry.path;
     const Record times = timesExtra(entry.modified);
 
     std::uint64_t size = contents.size();
@@ -170,7 +170,7 @@ void ZipWriter::add(const ZipEntry& entry, std::span<const std::byte> contents) 
     central.add(std::uint16_t{0})
         .add(std::uint16_t{0})
         .add(std::uint16_t{0}); // comment, disk, text
-    const std::uint32_t dosFolder = entry.kind == ZipKind::Folder ? 0x10 : 0;
+    const std::uint32_t dosFolder = entry.kind == ZipKind::folder ? 0x10 : 0;
     central.add(static_cast<std::uint32_t>(kindBits(entry.kind) | (entry.mode & 07777u)) << 16 |
                 dosFolder);
     central.add(static_cast<std::uint32_t>(offset));

@@ -20,7 +20,7 @@ namespace formats {
 
 struct ZipEntry {
     std::string path; ///< UTF-8, without a slash at the end; written as it is, never checked
-    ZipKind kind = ZipKind::File;
+    ZipKind kind = ZipKind::file;
     std::uint16_t mode = 0644; ///< permissions
     std::int64_t modified = 0; ///< seconds since 1970, UTC
 };

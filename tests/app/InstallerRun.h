@@ -15,17 +15,12 @@
 #include <nlohmann/json.hpp>
 
 #include "platform/posix/SpawnedTools.h"
+#include "tests/support/TemporaryFolder.h"
 
 namespace tests {
 
 namespace fs = std::filesystem;
 using Json = nlohmann::json;
-
-inline std::string contentsOf(const fs::path& path) {
-    std::ostringstream text;
-    text << std::ifstream(path, std::ios::binary).rdbuf();
-    return text.str();
-}
 
 /// Every item below `top` with what tells two trees apart.
 inline std::map<std::string, std::string> treeOf(const fs::path& top) {

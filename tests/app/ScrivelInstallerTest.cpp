@@ -1,7 +1,6 @@
 // The installer window's flow over fakes: every sheet, every checkpoint, every line.
 #include "app/ScrivelInstaller.h"
 
-#include <cstdlib>
 #include <filesystem>
 #include <fstream>
 
@@ -11,6 +10,7 @@
 #include "app/myAppDelegate.h"
 #include "platform/ports/PlatformError.h"
 #include "tests/fakes/FakeHost.h"
+#include "tests/support/TemporaryFolder.h"
 
 namespace {
 
@@ -24,14 +24,9 @@ using Ending = ScrivelInstaller::Ending;
 constexpr int kFirst = ports::AlertSheets::kFirstButton;
 constexpr int kSecond = ports::AlertSheets::kSecondButton;
 
-/// A folder of the test's own.
-fs::path freshFolder() {
-    std::string name = (fs::temp_directory_path() / "scrivel-test-XXXXXX").string();
-    return mkdtemp(name.data());
-}
-
 struct ScrivelInstallerTest : testing::Test {
-    fs::path folder = freshFolder();
+    tests::TemporaryFolder own;
+    fs::path folder = own.path();
     std::string destination = (folder / "root/Applications/Scrivel 21").string();
     fakes::FakeHost host;
     std::vector<std::string> statuses; ///< as the status line showed them
@@ -45,7 +40,6 @@ struct ScrivelInstallerTest : testing::Test {
         host.tools.handler = [this](const ports::ToolCall& call) { return tool(call); };
         host.modalLoop.idle = [this] { return idle(); };
     }
-    void TearDown() override { fs::remove_all(folder); }
 
     /// What the real tools would leave behind.
     fakes::FakeTools::Answer tool(const ports::ToolCall& call) {

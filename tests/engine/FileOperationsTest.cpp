@@ -1,7 +1,6 @@
 // What each operation logs, runs and answers, with tools that only remember.
 #include "engine/FileOperations.h"
 
-#include <cstdlib>
 #include <filesystem>
 #include <fstream>
 
@@ -9,6 +8,7 @@
 #include <gtest/gtest.h>
 
 #include "tests/fakes/FakeHost.h"
+#include "tests/support/TemporaryFolder.h"
 #include "wizard/ecController.h"
 
 namespace {
@@ -18,14 +18,9 @@ using ec::ExitStatus;
 using testing::ElementsAre;
 using testing::IsEmpty;
 
-/// A folder of the test's own.
-fs::path freshFolder() {
-    std::string name = (fs::temp_directory_path() / "scrivel-test-XXXXXX").string();
-    return mkdtemp(name.data());
-}
-
 struct FileOperationsTest : testing::Test {
-    fs::path root = freshFolder();
+    tests::TemporaryFolder temporary;
+    fs::path root = temporary.path();
     std::string folder = (root / "a folder").string();
     std::string file = (root / "file").string();
     std::string none = (root / "none").string();
@@ -36,7 +31,6 @@ struct FileOperationsTest : testing::Test {
         fs::create_directories(folder);
         std::ofstream(file) << "text";
     }
-    void TearDown() override { fs::remove_all(root); }
 
     std::vector<std::string> run() const {
         std::vector<std::string> lines;

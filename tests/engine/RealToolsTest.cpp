@@ -1,5 +1,4 @@
 // The runner and the file operations with the real tools on real files.
-#include <cstdlib>
 #include <filesystem>
 #include <fstream>
 
@@ -14,6 +13,7 @@
 #include "platform/posix/FinderFileStore.h"
 #include "platform/posix/SpawnedTools.h"
 #include "tests/fakes/FakeHost.h"
+#include "tests/support/TemporaryFolder.h"
 #include "wizard/ecController.h"
 
 namespace {
@@ -25,7 +25,8 @@ using testing::ElementsAre;
 using testing::HasSubstr;
 
 struct RealTools : testing::Test {
-    fs::path folder;
+    tests::TemporaryFolder own;
+    fs::path folder = own.path();
     fakes::FakeHost host;
     posix::SpawnedTools tools{{.ownToolsFolder = SCRIVEL_TOOLS}};
     posix::FileTextStreams streams;
@@ -33,8 +34,6 @@ struct RealTools : testing::Test {
     std::optional<ec::ecController> controller;
 
     void SetUp() override {
-        std::string name = (fs::temp_directory_path() / "scrivel-tools-XXXXXX").string();
-        folder = fs::canonical(mkdtemp(name.data()));
         host.bundles.resourceFolder = folder.string();
         host.places.home = folder.string();
         fs::create_directories(folder / "Library/Logs");
@@ -56,7 +55,6 @@ struct RealTools : testing::Test {
                                        .modalLoop = host.modalLoop,
                                        .appearance = host.appearance});
     }
-    void TearDown() override { fs::remove_all(folder); }
 
     std::string make(const std::string& name, const std::string& text = "text") {
         const fs::path path = folder / name;

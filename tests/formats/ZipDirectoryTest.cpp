@@ -57,14 +57,14 @@ TEST(ZipDirectory, MembersComeInTheArchivesOrderWithAllThatIsSaidOfThem) {
         directoryOf({folder("b"), packedFile("b/x", std::string(5000, 'x')), linkTo("a", "b/x")});
     ASSERT_THAT(pathsOf(directory), ElementsAre("b", "b/x", "a"));
     const ZipMember& file = directory.members()[1];
-    EXPECT_EQ(file.kind, ZipKind::File);
+    EXPECT_EQ(file.kind, ZipKind::file);
     EXPECT_EQ(file.size, 5000u);
     EXPECT_LT(file.packedSize, 100u);
     EXPECT_EQ(file.crc, crcOf(std::string(5000, 'x')));
     EXPECT_EQ(file.mode, 0644);
     EXPECT_TRUE(file.deflated);
-    EXPECT_EQ(directory.members()[0].kind, ZipKind::Folder);
-    EXPECT_EQ(directory.members()[2].kind, ZipKind::Link);
+    EXPECT_EQ(directory.members()[0].kind, ZipKind::folder);
+    EXPECT_EQ(directory.members()[2].kind, ZipKind::link);
     EXPECT_EQ(directory.totalSize(), 5003u);
 }
 
@@ -104,8 +104,8 @@ TEST(ZipDirectory, DevicesAndPipesAreOfTheOtherKind) {
     RawMember pipe = file("pipe", "");
     pipe.mode = 0010600;
     const ZipDirectory directory = directoryOf({device, pipe});
-    EXPECT_EQ(directory.members()[0].kind, ZipKind::Other);
-    EXPECT_EQ(directory.members()[1].kind, ZipKind::Other);
+    EXPECT_EQ(directory.members()[0].kind, ZipKind::other);
+    EXPECT_EQ(directory.members()[1].kind, ZipKind::other);
 }
 
 TEST(ZipDirectory, TheTopFoldersOwnMemberAndDotComponentsAreLeftOut) {

@@ -15,7 +15,7 @@ struct Item {
     std::string contents = {};
 };
 
-ZipEntry named(const std::string& path, ZipKind kind = ZipKind::File) {
+ZipEntry named(const std::string& path, ZipKind kind = ZipKind::file) {
     return {.path = path, .kind = kind};
 }
 
@@ -45,20 +45,20 @@ TEST(ZipWriter, TheReaderGivesBackWhatWasAdded) {
     file.mode = 0751;
     file.modified = 1795230251;
     for (const bool zip64 : {false, true}) {
-        const ZipReading reading = readArchive(written({{named("a", ZipKind::Folder)},
+        const ZipReading reading = readArchive(written({{named("a", ZipKind::folder)},
                                                         {file, std::string(10000, 'x')},
-                                                        {named("l", ZipKind::Link), "a/b"}},
+                                                        {named("l", ZipKind::link), "a/b"}},
                                                        {.level = 9, .alwaysZip64 = zip64}));
         ASSERT_TRUE(reading.directory) << reading.error;
         const auto& members = reading.directory->members();
         ASSERT_EQ(members.size(), 3u);
-        EXPECT_EQ(members[0].kind, ZipKind::Folder);
+        EXPECT_EQ(members[0].kind, ZipKind::folder);
         EXPECT_EQ(members[1].path, "a/b");
         EXPECT_EQ(members[1].mode, 0751);
         EXPECT_EQ(members[1].modified, 1795230251);
         EXPECT_EQ(members[1].size, 10000u);
         EXPECT_TRUE(members[1].deflated);
-        EXPECT_EQ(members[2].kind, ZipKind::Link);
+        EXPECT_EQ(members[2].kind, ZipKind::link);
         EXPECT_FALSE(members[2].deflated);
     }
 }

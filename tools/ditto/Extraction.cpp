@@ -59,7 +59,7 @@ void Extraction::run() {
     {
         FolderDescriptors folders(m_needs.top);
         for (std::uint32_t i = 1; i < m_folders.size(); ++i)
-            if (m_states[i] == FolderState::Needed)
+            if (m_states[i] == FolderState::needed)
                 makeFolder(i, folders);
     }
     runWorkers();
@@ -78,8 +78,8 @@ void Extraction::run() {
 void Extraction::planFolders() {
     const auto& folders = m_needs.directory.folders();
     m_folders.resize(folders.size());
-    m_states.resize(folders.size(), FolderState::NotNeeded);
-    m_states[0] = FolderState::Found;
+    m_states.resize(folders.size(), FolderState::notNeeded);
+    m_states[0] = FolderState::found;
     const auto attributes =
         std::ranges::find_if(folders, [](const auto& folder) { return folder.path == "__MACOSX"; });
     const auto attributesIndex = static_cast<std::uint32_t>(attributes - folders.begin());
@@ -88,14 +88,14 @@ void Extraction::planFolders() {
         m_folders[i] = {&m_folders[folders[i].parent], std::string(folders[i].name())};
         isForAttributes[i] = i == attributesIndex || isForAttributes[folders[i].parent];
         // Folders of attributes are made only for what turns out to be something else.
-        m_states[i] = isForAttributes[i] ? FolderState::NotNeeded : FolderState::Needed;
+        m_states[i] = isForAttributes[i] ? FolderState::notNeeded : FolderState::needed;
     }
     for (const ZipMember& member : m_members)
-        if (isForAttributes[member.folder] && member.kind != ZipKind::Folder &&
+        if (isForAttributes[member.folder] && member.kind != ZipKind::folder &&
             member.describes == ZipMember::kNone)
-            for (std::uint32_t i = member.folder; m_states[i] == FolderState::NotNeeded;
+            for (std::uint32_t i = member.folder; m_states[i] == FolderState::notNeeded;
                  i = folders[i].parent)
-                m_states[i] = FolderState::Needed;
+                m_states[i] = FolderState::needed;
 }
 
 void Extraction::planFiles() {
@@ -103,9 +103,9 @@ void Extraction::planFiles() {
         const ZipMember& member = m_members[i];
         if (member.describes != ZipMember::kNone)
             m_doubles.emplace(member.describes, i);
-        else if (member.kind == ZipKind::File)
+        else if (member.kind == ZipKind::file)
             m_files.push_back(i);
-        else if (member.kind == ZipKind::Other)
+        else if (member.kind == ZipKind::other)
             m_needs.complaints.about(pathOf(member.path),
                                      "a device, pipe or socket, which is not unpacked");
     }
@@ -134,30 +134,30 @@ void Extraction::planFiles() {
 void Extraction::makeFolder(std::uint32_t index, FolderDescriptors& folders) {
     const formats::ZipFolder& folder = m_needs.directory.folders()[index];
     FolderState& state = m_states[index];
-    if (m_states[folder.parent] == FolderState::Failed) {
-        state = FolderState::Failed; // its parent was complained about
+    if (m_states[folder.parent] == FolderState::failed) {
+        state = FolderState::failed; // its parent was complained about
         return;
     }
     try {
         // Open to ourselves until everything is in it.
         if (::mkdirat(folders.of(*m_folders[index].parent), m_folders[index].name.c_str(),
                       S_IRWXU) == 0) {
-            state = FolderState::Made;
+            state = FolderState::made;
             return;
         }
         if (errno != EEXIST)
             throwErrno();
         folders.of(m_folders[index]);
-        state = FolderState::Found;
+        state = FolderState::found;
     } catch (const std::exception& error) {
         complain(folder.path, error);
-        state = FolderState::Failed;
+        state = FolderState::failed;
     }
 }
 
 void Extraction::makeFoldersAbove(std::uint32_t index, FolderDescriptors& folders) {
     std::vector<std::uint32_t> missing;
-    for (; m_states[index] == FolderState::NotNeeded;
+    for (; m_states[index] == FolderState::notNeeded;
          index = m_needs.directory.folders()[index].parent)
         missing.push_back(index);
     for (auto next = missing.rbegin(); next != missing.rend(); ++next)
@@ -181,7 +181,7 @@ void Extraction::work() {
 }
 
 void Extraction::extract(const ZipMember& member, Worker& worker) {
-    if (m_states[member.folder] == FolderState::Failed)
+    if (m_states[member.folder] == FolderState::failed)
         return; // the folder was complained about
     try {
         extractFile(member, worker);
@@ -247,7 +247,7 @@ void Extraction::applyAttributes(std::uint32_t doubleIndex, int file, int folder
 void Extraction::applyFolderAttributes(std::uint32_t index, Worker& worker) {
     const std::uint32_t own = m_needs.directory.folders()[index].member;
     if (own == ZipMember::kNone || doubleOf(m_members[own]) == ZipMember::kNone ||
-        (m_states[index] != FolderState::Made && m_states[index] != FolderState::Found))
+        (m_states[index] != FolderState::made && m_states[index] != FolderState::found))
         return;
     try {
         // Two at a time, where the descriptors promise one.
@@ -262,7 +262,7 @@ void Extraction::applyFolderAttributes(std::uint32_t index, Worker& worker) {
 
 void Extraction::makeLinks(Worker& worker) {
     for (const ZipMember& member : m_members) {
-        if (member.kind != ZipKind::Link || m_states[member.folder] == FolderState::Failed)
+        if (member.kind != ZipKind::link || m_states[member.folder] == FolderState::failed)
             continue;
         try {
             makeLink(member, worker);
@@ -295,11 +295,11 @@ void Extraction::makeLink(const ZipMember& member, Worker& worker) {
 void Extraction::finishFolders(Worker& worker) {
     const auto& folders = m_needs.directory.folders();
     for (std::size_t i = folders.size() - 1; i > 0; --i) {
-        if (m_states[i] != FolderState::Made && m_states[i] != FolderState::Found)
+        if (m_states[i] != FolderState::made && m_states[i] != FolderState::found)
             continue;
         const ZipMember* member =
             folders[i].member == ZipMember::kNone ? nullptr : &m_members[folders[i].member];
-        if (member == nullptr && m_states[i] == FolderState::Found)
+        if (member == nullptr && m_states[i] == FolderState::found)
             continue;
         try {
             const int folder = worker.folders.of(m_folders[i]);
@@ -324,7 +324,7 @@ std::uint32_t Extraction::doubleOf(const ZipMember& member) const {
 mode_t Extraction::modeOf(const ZipMember& member) const {
     if (member.hasMode)
         return member.mode;
-    return (member.kind == ZipKind::Folder ? 0777 : 0666) & ~m_needs.umask;
+    return (member.kind == ZipKind::folder ? 0777 : 0666) & ~m_needs.umask;
 }
 
 std::string Extraction::pathOf(std::string_view path) const {

@@ -74,7 +74,7 @@ class Extraction {
     std::string pathOf(std::string_view path) const;
     void complain(std::string_view path, const std::exception& error);
 
-    enum class FolderState : std::uint8_t { NotNeeded, Needed, Made, Found, Failed };
+    enum class FolderState : std::uint8_t { notNeeded, needed, made, found, failed };
 
     Needs m_needs;
     const std::vector<formats::ZipMember>& m_members;

@@ -73,12 +73,12 @@ void TreePacker::addItem(const fs::path& path, const std::string& member) {
         addAttributes(path, member, entry);
         break;
     case S_IFLNK:
-        entry.kind = ZipKind::Link;
+        entry.kind = ZipKind::link;
         m_archive.add(entry, bytesOf(fs::read_symlink(path).string()));
         addAttributes(path, member, entry);
         break;
     case S_IFDIR:
-        entry.kind = ZipKind::Folder;
+        entry.kind = ZipKind::folder;
         m_archive.add(entry);
         addAttributes(path, member, entry);
         addFolder(path, member);
@@ -102,7 +102,7 @@ void TreePacker::addFolder(const fs::path& path, const std::string& member) {
 void TreePacker::addAttributes(const fs::path& path, const std::string& member,
                                const ZipEntry& entry) {
     formats::AppleDouble attributes = sidecarOf(path).value_or(formats::AppleDouble{});
-    if (entry.kind != ZipKind::Link) {
+    if (entry.kind != ZipKind::link) {
         const Descriptor file(checked(::open(path.c_str(), O_RDONLY | O_NOFOLLOW | O_CLOEXEC)));
         formats::AppleDouble own = readMacAttributes(file.number());
         if (own.hasFinderInformation())
