@@ -29,6 +29,7 @@ constexpr std::string_view kCanceling = "Canceling…";
 constexpr double kFirstDarkToolkit = 1671;
 
 constexpr std::string_view kTemporaryPrefix = "SV";
+constexpr int kTemporaryFolderAttempts = 16;
 
 bool isFolder(const std::string& path) {
     std::error_code ignored;
@@ -212,17 +213,19 @@ void ScrivelInstaller::runInstallationBlock() {
 
 std::string ScrivelInstaller::makeTemporaryFolder() const {
     using namespace Corvaldine::CP;
-    CPath path;
-    if (CFileUtils::temp_file(path, std::string(kTemporaryPrefix).c_str(), 0))
-        CFileUtils::remove(path);
-    const bool made = CDir::create(path, false);
-    const std::wstring& wide = path;
-    const std::string folder = SVCommon_NSStringConversionHelpers::to_utf8_std_string(
-        SVCommon_NSStringConversionHelpers::stringWith_std_wstring(wide));
-    // The names can be guessed: a folder that somebody else made meanwhile is not ours to use.
-    if (!made && exists(folder))
-        throw ports::PlatformError("the temporary folder " + folder + " belongs to somebody else");
-    return folder;
+    for (int attempt = 0; attempt < kTemporaryFolderAttempts; ++attempt) {
+        CPath path;
+        if (CFileUtils::temp_file(path, std::string(kTemporaryPrefix).c_str(), 0))
+            CFileUtils::remove(path);
+        const bool made = CDir::create(path, false);
+        const std::wstring& wide = path;
+        const std::string folder = SVCommon_NSStringConversionHelpers::to_utf8_std_string(
+            SVCommon_NSStringConversionHelpers::stringWith_std_wstring(wide));
+        if (made || !exists(folder))
+            return folder;
+        // The names can be guessed: a folder that somebody else made meanwhile is not ours to use.
+    }
+    throw ports::PlatformError("no temporary folder of one's own can be made");
 }
 
 void ScrivelInstaller::install(const std::string& temporaryFolder) {
