@@ -8,6 +8,7 @@
 #include <gtest/gtest.h>
 
 #include "app/myAppDelegate.h"
+#include "cp/private/SystemFolders.h"
 #include "platform/ports/PlatformError.h"
 #include "tests/fakes/FakeHost.h"
 #include "tests/support/TemporaryFolder.h"
@@ -34,6 +35,9 @@ struct ScrivelInstallerTest : testing::Test {
     void SetUp() override {
         fs::create_directories(folder / "resources");
         fs::create_directories(folder / "root/Applications");
+        fs::create_directories(folder / "temporary");
+        Corvaldine::CP::Private::set_system_folder_bases(
+            {.root = {}, .home = {}, .temporary = (folder / "temporary").string()});
         host.places.root = (folder / "root").string();
         host.bundles.resourceFolder = (folder / "resources").string();
         std::ofstream(folder / "resources/Scrivel.zip") << "an archive";
