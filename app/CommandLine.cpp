@@ -32,6 +32,8 @@ ParsedCommandLine parseCommandLine(std::vector<std::string> arguments,
     CLI::App parser{std::string(kProgramName) + " " + std::string(kProgramSummary)};
     parser.name(std::string(kProgramName));
     parser.set_help_flag();
+    parser.get_formatter()->label("SUBCOMMAND", "COMMAND");
+    parser.get_formatter()->label("Subcommands", "Commands");
     parser.require_subcommand(0, 1);
 
     CommandLine options;
@@ -47,7 +49,9 @@ ParsedCommandLine parseCommandLine(std::vector<std::string> arguments,
         {"--yes", [&](auto& name) { return parser.add_flag(name, options.yes); }},
         {"--wait-for-apps",
          [&](auto& name) {
-             return parser.add_option(name, seconds)->check(CLI::NonNegativeNumber);
+             CLI::Validator notNegative = CLI::NonNegativeNumber;
+             notNegative.description(""); // the help says it in words
+             return parser.add_option(name, seconds)->check(notNegative);
          }},
         {"--no-launch", [&](auto& name) { return parser.add_flag(name, options.noLaunch); }},
         {"--events", [&](auto& name) { return parser.add_flag(name, options.events); }},
