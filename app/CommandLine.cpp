@@ -33,7 +33,6 @@ ParsedCommandLine parseCommandLine(std::vector<std::string> arguments,
     parser.name(std::string(kProgramName));
     parser.set_help_flag();
     parser.get_formatter()->label("SUBCOMMAND", "COMMAND");
-    parser.get_formatter()->label("Subcommands", "Commands");
     parser.require_subcommand(0, 1);
 
     CommandLine options;
@@ -66,7 +65,9 @@ ParsedCommandLine parseCommandLine(std::vector<std::string> arguments,
             option->type_name(std::string(row.argument));
     }
     for (const CommandRow& row : kCommands)
-        parser.add_subcommand(std::string(row.name), std::string(row.help))->fallthrough();
+        parser.add_subcommand(std::string(row.name), std::string(row.help))
+            ->group("Commands")
+            ->fallthrough();
 
     try {
         std::ranges::reverse(arguments); // as the parser wants them
