@@ -10,6 +10,7 @@
 #include <fcntl.h>
 #include <limits.h>
 
+#include "tools/ditto/TreeQuestions.h"
 #include "tools/files/ExtendedAttributes.h"
 #include "tools/files/FolderEntries.h"
 #include "tools/files/MacAttributes.h"
@@ -22,26 +23,6 @@ constexpr std::size_t kNamesOfABatch = 128;
 constexpr std::size_t kWaitingBatches = 32;
 
 constexpr mode_t kPermissions = 07777;
-
-bool areSame(const struct stat& a, const struct stat& b) {
-    return a.st_dev == b.st_dev && a.st_ino == b.st_ino;
-}
-
-/// Whether `path`, as far as it exists, is the folder or lies inside it.
-bool isInside(const std::string& path, const struct stat& folder) {
-    Descriptor at(::open(nearestExisting(path).c_str(), O_PATH | O_CLOEXEC));
-    struct stat status{};
-    if (!at.isOpen() || ::fstat(at.number(), &status) != 0 || !S_ISDIR(status.st_mode))
-        return false;
-    for (;;) {
-        if (areSame(status, folder))
-            return true;
-        const struct stat below = status;
-        at = Descriptor(::openat(at.number(), "..", O_PATH | O_CLOEXEC));
-        if (!at.isOpen() || ::fstat(at.number(), &status) != 0 || areSame(status, below))
-            return false; // the root is its own parent
-    }
-}
 
 std::string resolved(const std::string& path) {
     const std::unique_ptr<char, decltype(&std::free)> real(::realpath(path.c_str(), nullptr),
@@ -59,8 +40,6 @@ void copyAccessLists(int from, int to, const std::vector<std::string>& names) {
             if (const auto value = attributeValue(from, name))
                 setAttribute(to, name, *value);
 }
-
-std::uint64_t sizeOfTree(int top);
 
 } // namespace
 
@@ -387,37 +366,5 @@ void TreeCopy::setOwner(int file, const struct stat& status, const struct stat& 
 std::string TreeCopy::pathOf(const Folder* folder, std::string_view name) const {
     return m_destination + '/' + (folder == nullptr ? std::string(name) : folder->pathOf(name));
 }
-
-namespace {
-
-/// For the progress alone; what can't be read counts nothing.
-std::uint64_t sizeOfTree(int top) {
-    std::uint64_t total = 0;
-    FolderDescriptors descriptors(top);
-    std::deque<Folder> folders(1);
-    std::vector<const Folder*> pending{&folders.front()};
-    while (!pending.empty()) {
-        const Folder& folder = *pending.back();
-        pending.pop_back();
-        try {
-            FolderEntries entries(descriptors.of(folder));
-            while (const auto entry = entries.next()) {
-                struct stat status{};
-                if (entry->kind == DT_DIR) {
-                    folders.push_back({&folder, entry->name});
-                    pending.push_back(&folders.back());
-                } else if (entry->kind == DT_REG && ::fstatat(entries.descriptor(), entry->name,
-                                                              &status, AT_SYMLINK_NOFOLLOW) == 0) {
-                    total += static_cast<std::uint64_t>(status.st_size);
-                }
-            }
-        } catch (const std::system_error&) {
-            continue;
-        }
-    }
-    return total;
-}
-
-} // namespace
 
 } // namespace tools
