@@ -159,10 +159,12 @@ TEST_F(DittoCopy, AFolderInTheWayOfAFileIsAnErrorAndTheOthersGoOn) {
 
 TEST_F(DittoCopy, ExtendedAttributesOfFilesAndFoldersAreKept) {
     write("src/d/a", "text");
-    fs::permissions(at("src/d/a"), fs::perms(0444));
     for (const char* path : {"src/d/a", "src/d", "src"})
         ASSERT_EQ(::setxattr(at(path).c_str(), "user.note", path, 3, 0), 0);
+    fs::permissions(at("src/d/a"), fs::perms(0444)); // also where nobody may write
     EXPECT_EQ(ditto("src", "out").status, 0);
+    EXPECT_FALSE(fs::exists(at("out/d/._a")));
+    EXPECT_EQ(fs::status(at("out/d/a")).permissions(), fs::perms(0444));
     for (const char* path : {"out/d/a", "out/d", "out"}) {
         char value[10];
         EXPECT_EQ(::getxattr(at(path).c_str(), "user.note", value, sizeof value), 3) << path;
