@@ -110,7 +110,12 @@ AnswersDriver::Needs Run::driverNeeds(AnswersFile answers) {
             .agree = m_options.yes,
             .waitForApps = m_options.waitForApps,
             .appsAreRunning = [this] { return m_installer->isScrivelOrWordRunning(); },
-            .pause = [this](auto time) { waitForWork(time); },
+            .pause =
+                [this](auto time) {
+                    waitForWork(time);
+                    m_adapters.mainQueue.runPending();
+                    return m_installer->ending() == Ending::open;
+                },
             .firstButton = "m_button"};
 }
 
@@ -179,12 +184,11 @@ void Run::report(std::optional<int> result, ExitCode code, const std::string& re
     m_adapters.events.emit("finished", {{"result", result ? Event(*result) : Event()},
                                         {"exit", static_cast<int>(code)},
                                         {"reason", reason}});
-    const std::string log = m_adapters.places.expandTilde(ec::gLogName);
     if (code != ExitCode::done)
         std::cerr << kProgramName << ": " << reason << std::endl;
     else if (m_options.unattended && !m_options.events)
         std::cout << product::kDisplayName << " is installed in " << m_installer->destination()
-                  << "\nThe log is " << log << std::endl;
+                  << "\nThe log is " << m_adapters.places.expandTilde(ec::gLogName) << std::endl;
 }
 
 ExitCode Run::start() {

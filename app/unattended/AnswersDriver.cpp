@@ -2,7 +2,6 @@
 
 #include <algorithm>
 #include <array>
-
 #include <string_view>
 #include <vector>
 
@@ -82,7 +81,8 @@ std::size_t AnswersDriver::answer(const ports::Alert& alert) {
     if (quit) {
         const auto giveUp = Clock::now() + m_needs.waitForApps;
         while (!m_failure && Clock::now() < giveUp && m_needs.appsAreRunning())
-            m_needs.pause(kAppsPollInterval);
+            if (!m_needs.pause(kAppsPollInterval))
+                return *quit;
         return !m_failure && m_needs.waitForApps > 0s && !m_needs.appsAreRunning() ? 0 : *quit;
     }
     if (m_needs.agree && !m_failure)

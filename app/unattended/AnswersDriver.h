@@ -27,8 +27,9 @@ class AnswersDriver {
         std::chrono::seconds waitForApps{0};
         /// Are the applications still running that the question is about?
         std::function<bool()> appsAreRunning;
-        /// Lets time pass, with the main queue drained.
-        std::function<void(std::chrono::milliseconds)> pause;
+        /// Lets time pass and runs what the main queue holds; false when the window was closed
+        /// meanwhile, so that there is nothing left to wait for.
+        std::function<bool(std::chrono::milliseconds)> pause;
         /// The outlet that starts the work when the file has no steps.
         std::string firstButton;
     };

@@ -278,6 +278,14 @@ TEST_F(RunningApplication, AnApplicationThatQuitsInTimeIsWaitedFor) {
     EXPECT_EQ(result.of("question")[0]["answer"], "OK");
 }
 
+TEST_F(RunningApplication, APoliteKillEndsTheWaitForTheApplication) {
+    start("3");
+    const Result result = run("install --unattended --no-launch --wait-for-apps 60 & installer=$!; "
+                              "sleep 1; kill -TERM $installer; wait $installer");
+    EXPECT_EQ(result.exit, 6);
+    EXPECT_FALSE(fs::exists(destination)) << "else it waited for the application to quit";
+}
+
 // --- broken and hostile surroundings
 
 TEST_F(EndToEnd, AMissingArchiveFailsTruthfullyAndLogsNothing) {
