@@ -222,11 +222,7 @@ TEST_F(DittoCopy, FilesThatCannotBeReadAreErrorsAndTheOthersGoOn) {
     write("src/b", "b");
     fs::permissions(at("src"), fs::perms(0755));
     fs::permissions(at("src/a"), fs::perms(0));
-    std::vector<std::string> command{DITTO, "-rsrcFork", "src", "out"};
-    if (isRoot())
-        command.insert(command.begin(), {"setpriv", "--reuid=65534", "--regid=65534",
-                                         "--clear-groups", "--inh-caps=-all"});
-    const Outcome outcome = run(command);
+    const Outcome outcome = runAsOrdinaryUser({DITTO, "-rsrcFork", "src", "out"});
     if (outcome.status == 127 || outcome.status == 126)
         GTEST_SKIP() << "another user can't run the tool here: " << outcome.output;
     EXPECT_EQ(outcome.status, 1);

@@ -80,6 +80,13 @@ Outcome ToolTest::unpack(const std::string& archive, const std::string& to) cons
     return run({DITTO, "-xk", "--noqtn", archive, to});
 }
 
+Outcome ToolTest::runAsOrdinaryUser(std::vector<std::string> command) const {
+    if (isRoot())
+        command.insert(command.begin(), {"setpriv", "--reuid=65534", "--regid=65534",
+                                         "--clear-groups", "--inh-caps=-all"});
+    return run(command);
+}
+
 bool ToolTest::isRoot() {
     return ::geteuid() == 0;
 }

@@ -43,6 +43,8 @@ class ToolTest : public ::testing::Test {
                 const std::vector<std::string>& environment = {}) const {
         return testing::run(command, m_folder.path(), environment);
     }
+    /// Without the administrator's rights, also where the test has them.
+    Outcome runAsOrdinaryUser(std::vector<std::string> command) const;
     Outcome ditto(const std::string& from, const std::string& to) const;
     Outcome unpack(const std::string& archive, const std::string& to) const;
     static bool isRoot();
