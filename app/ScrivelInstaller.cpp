@@ -77,7 +77,7 @@ ScrivelInstaller::ScrivelInstaller(const ports::Host& host)
 }
 
 std::string ScrivelInstaller::localized(std::string_view key) const {
-    return m_host.texts.lookUp(key);
+    return m_host.texts.translated(key);
 }
 
 void ScrivelInstaller::setButtonTitle(const std::string& title) {

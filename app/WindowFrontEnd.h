@@ -12,12 +12,15 @@
 
 namespace app {
 
-/// The four ports that a front end implements.
+/// The ports that a front end implements.
 struct FrontEndPorts {
     ports::InterfaceFiles& interfaceFiles;
     ports::AlertSheets& alertSheets;
     ports::ModalLoop& modalLoop;
     ports::Appearance& appearance;
+    ports::FileChoosers& fileChoosers;
+    ports::Reader& reader;
+    ports::Beeper& beeper;
 };
 
 class WindowFrontEnd {

@@ -27,7 +27,8 @@ class GuiWindow final : public WindowFrontEnd {
     explicit GuiWindow(Needs needs) : m_gui(std::move(needs)) {}
 
     FrontEndPorts ports() override {
-        return {m_gui.interfaceFiles(), m_gui.alertSheets(), m_gui.modalLoop(), m_gui.appearance()};
+        return {m_gui.interfaceFiles(), m_gui.alertSheets(), m_gui.modalLoop(), m_gui.appearance(),
+                m_gui.fileChoosers(),   m_gui.reader(),      m_gui.beeper()};
     }
 
   private:

@@ -2,6 +2,7 @@
 
 #include <utility>
 
+#include <QApplication>
 #include <QSocketNotifier>
 
 #include "ui/DesktopAppearance.h"
@@ -11,6 +12,25 @@
 #include "ui/UiFiles.h"
 
 namespace ui {
+
+namespace {
+
+class ToolkitBeeper final : public ports::Beeper {
+  public:
+    void beep() override { QApplication::beep(); }
+};
+
+class NoChoosers final : public ports::FileChoosers {
+  public:
+    std::optional<std::string> choose(const ports::Chooser&) override { return std::nullopt; }
+};
+
+class NoReader final : public ports::Reader {
+  public:
+    void read(const ports::ReadingMatter&, controls::Window&) override {}
+};
+
+} // namespace
 
 struct GuiFrontEnd::Parts {
     explicit Parts(const Needs& needs)
@@ -34,6 +54,9 @@ struct GuiFrontEnd::Parts {
     Sheets sheets; // its dialogs hang on those of `files`
     SessionLoop loop;
     DesktopAppearance appearance;
+    NoChoosers choosers;
+    NoReader reader;
+    ToolkitBeeper beeper;
     QSocketNotifier queue;
 };
 
@@ -55,6 +78,18 @@ ports::ModalLoop& GuiFrontEnd::modalLoop() {
 
 ports::Appearance& GuiFrontEnd::appearance() {
     return m_parts->appearance;
+}
+
+ports::FileChoosers& GuiFrontEnd::fileChoosers() {
+    return m_parts->choosers;
+}
+
+ports::Reader& GuiFrontEnd::reader() {
+    return m_parts->reader;
+}
+
+ports::Beeper& GuiFrontEnd::beeper() {
+    return m_parts->beeper;
 }
 
 } // namespace ui

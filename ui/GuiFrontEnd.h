@@ -41,6 +41,9 @@ class GuiFrontEnd {
     ports::AlertSheets& alertSheets();
     ports::ModalLoop& modalLoop();
     ports::Appearance& appearance();
+    ports::FileChoosers& fileChoosers();
+    ports::Reader& reader();
+    ports::Beeper& beeper();
 
   private:
     struct Parts;

@@ -2,6 +2,7 @@
 // the front end's notifier, which every loop serves.
 #pragma once
 
+#include <memory>
 #include <vector>
 
 #include "platform/ports/FrontEnd.h"
@@ -10,17 +11,23 @@ namespace ui {
 
 class SessionLoop final : public ports::ModalLoop {
   public:
-    /// What a session answers that ends without a code because its window was ordered out or the
-    /// program was asked to quit: nothing could end it any more.
-    static constexpr int kAborted = -1001;
+    SessionLoop();
+    ~SessionLoop() override;
 
     int runModalForWindow(controls::Window& window) override;
     /// A session that is ending already keeps its code.
     void stopModalWithCode(int code) override;
+    Session beginModalSession(controls::Window& window) override;
+    int runModalSession(Session session) override;
+    void endModalSession(Session session) override;
+    void beginSheet(controls::Window& sheet, controls::Window& parent) override;
+    void endSheet(controls::Window& sheet) override;
+    void terminate() override;
 
   private:
-    class Session;
-    std::vector<Session*> m_sessions;
+    class OpenSession;
+    std::vector<std::unique_ptr<OpenSession>> m_sessions;
+    bool m_terminated = false;
 };
 
 } // namespace ui

@@ -4,7 +4,7 @@ namespace ui {
 
 QString localized(const ports::LocalizedTexts& texts, std::string_view key,
                   const QStringList& values) {
-    QString text = QString::fromStdString(texts.lookUp(key));
+    QString text = QString::fromStdString(texts.translated(key));
     qsizetype at = 0;
     for (const QString& value : values) {
         at = text.indexOf(QLatin1String("%@"), at);
@@ -17,7 +17,7 @@ QString localized(const ports::LocalizedTexts& texts, std::string_view key,
 }
 
 QString TextsTranslator::translate(const char*, const char* source, const char*, int) const {
-    return source ? QString::fromStdString(m_texts.lookUp(source)) : QString();
+    return source ? QString::fromStdString(m_texts.translated(source)) : QString();
 }
 
 } // namespace ui

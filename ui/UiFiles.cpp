@@ -64,6 +64,7 @@ struct HasWidget {
     bool operator()(controls::Button*) const { return dialog.findChild<QPushButton*>(name); }
     bool operator()(controls::TextField*) const { return dialog.findChild<QLabel*>(name); }
     bool operator()(controls::Progress*) const { return dialog.findChild<ProgressBar*>(name); }
+    bool operator()(const void*) const { return false; }
 };
 
 } // namespace
@@ -83,6 +84,7 @@ class UiFiles::Loaded {
     const controls::Window* window() const { return m_window.model(); }
 
   private:
+    void bind(controls::Control&, const QString&) {}
     void bind(controls::Button& model, const QString& name) {
         m_buttons.push_back(
             std::make_unique<ButtonBinding>(model, *m_dialog->findChild<QPushButton*>(name)));

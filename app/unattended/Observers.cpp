@@ -27,6 +27,10 @@ Event described(const controls::Progress& progress) {
         {"kind", "progress"}, {"running", progress.isRunning()}, {"hidden", progress.isHidden()}};
 }
 
+Event described(const controls::Control& control) {
+    return {{"enabled", control.isEnabled()}, {"hidden", control.isHidden()}};
+}
+
 } // namespace
 
 int ObservedTools::run(const ports::ToolCall& call) {

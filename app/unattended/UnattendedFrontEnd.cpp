@@ -43,40 +43,68 @@ void UnattendedFrontEnd::answer(const Sheet& sheet) {
 }
 
 int UnattendedFrontEnd::runModalForWindow(controls::Window& window) {
-    using Turn = AnswersDriver::Turn;
-    window.orderFront();
-    const std::size_t session = m_sessions.size();
-    m_sessions.emplace_back();
-    while (true) {
-        m_needs.runPending();
-        if (m_sessions[session])
-            break;
-        if (m_sheet) {
-            answer(*std::exchange(m_sheet, std::nullopt));
-            continue;
-        }
-        // Looked at before the driver is asked: work that ends meanwhile has queued its last hop.
-        const bool busy = m_needs.background.isBusy();
-        switch (m_needs.driver.turn(*m_outlets, busy)) {
-        case Turn::acted:
-            break;
-        case Turn::waits:
-            m_needs.waitForWork(kLongestSleep);
-            break;
-        case Turn::closeWindow:
-            window.performClose();
-            break;
-        }
-    }
-    const int code = *m_sessions[session];
-    m_sessions.pop_back();
+    const Session session = beginModalSession(window);
+    int code = kContinues;
+    while (code == kContinues)
+        code = runModalSession(session);
+    endModalSession(session);
     window.orderOut();
     return code;
 }
 
 void UnattendedFrontEnd::stopModalWithCode(int code) {
-    if (!m_sessions.empty() && !m_sessions.back())
-        m_sessions.back() = code;
+    if (!m_sessions.empty() && !m_sessions.back().code)
+        m_sessions.back().code = code;
+}
+
+UnattendedFrontEnd::Session UnattendedFrontEnd::beginModalSession(controls::Window& window) {
+    window.orderFront();
+    m_sessions.push_back({&window, std::nullopt});
+    return m_sessions.size() - 1;
+}
+
+int UnattendedFrontEnd::runModalSession(Session session) {
+    using Turn = AnswersDriver::Turn;
+    m_needs.runPending();
+    if (m_terminated)
+        return kAborted;
+    if (m_sessions[session].code)
+        return *m_sessions[session].code;
+    if (!m_sessions[session].window->isVisible())
+        return kAborted;
+    if (m_sheet) {
+        answer(*std::exchange(m_sheet, std::nullopt));
+        return kContinues;
+    }
+    // Looked at before the driver is asked: work that ends meanwhile has queued its last hop.
+    const bool busy = m_needs.background.isBusy();
+    switch (m_needs.driver.turn(*m_outlets, busy)) {
+    case Turn::acted:
+        break;
+    case Turn::waits:
+        m_needs.waitForWork(kLongestSleep);
+        break;
+    case Turn::closeWindow:
+        m_sessions[session].window->performClose();
+        break;
+    }
+    return kContinues;
+}
+
+void UnattendedFrontEnd::endModalSession(Session session) {
+    m_sessions.resize(session);
+}
+
+void UnattendedFrontEnd::beginSheet(controls::Window& sheet, controls::Window&) {
+    sheet.orderFront();
+}
+
+void UnattendedFrontEnd::endSheet(controls::Window& sheet) {
+    sheet.orderOut();
+}
+
+std::optional<std::string> UnattendedFrontEnd::choose(const ports::Chooser&) {
+    return std::nullopt;
 }
 
 } // namespace app

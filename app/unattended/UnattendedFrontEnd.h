@@ -18,7 +18,10 @@ namespace app {
 class UnattendedFrontEnd final : public ports::InterfaceFiles,
                                  public ports::AlertSheets,
                                  public ports::ModalLoop,
-                                 public ports::Appearance {
+                                 public ports::Appearance,
+                                 public ports::FileChoosers,
+                                 public ports::Reader,
+                                 public ports::Beeper {
   public:
     struct Needs {
         AnswersDriver& driver;
@@ -36,6 +39,15 @@ class UnattendedFrontEnd final : public ports::InterfaceFiles,
                     std::function<void(int)> completion) override;
     int runModalForWindow(controls::Window& window) override;
     void stopModalWithCode(int code) override;
+    Session beginModalSession(controls::Window& window) override;
+    int runModalSession(Session session) override;
+    void endModalSession(Session session) override;
+    void beginSheet(controls::Window& sheet, controls::Window& parent) override;
+    void endSheet(controls::Window& sheet) override;
+    void terminate() override { m_terminated = true; }
+    std::optional<std::string> choose(const ports::Chooser& chooser) override;
+    void read(const ports::ReadingMatter&, controls::Window&) override {}
+    void beep() override {}
     bool isDark() const override { return false; }
     double toolkitVersion() const override { return kOwnToolkitVersion; }
 
@@ -49,7 +61,12 @@ class UnattendedFrontEnd final : public ports::InterfaceFiles,
     Needs m_needs;
     controls::Interface* m_outlets = nullptr;
     std::optional<Sheet> m_sheet;
-    std::vector<std::optional<int>> m_sessions; ///< the code that ended each, innermost last
+    struct OpenSession {
+        controls::Window* window;
+        std::optional<int> code; ///< the one that ended it
+    };
+    std::vector<OpenSession> m_sessions; ///< the innermost last
+    bool m_terminated = false;
 };
 
 } // namespace app

@@ -8,13 +8,21 @@
 #include <vector>
 
 #include "platform/controls/Button.h"
+#include "platform/controls/DocumentView.h"
+#include "platform/controls/ImageView.h"
+#include "platform/controls/MenuItem.h"
+#include "platform/controls/OutlineView.h"
 #include "platform/controls/Progress.h"
+#include "platform/controls/RadioMatrix.h"
+#include "platform/controls/TabView.h"
+#include "platform/controls/TableView.h"
 #include "platform/controls/TextField.h"
 #include "platform/controls/Window.h"
 
 namespace controls {
 
-using Outlet = std::variant<Button*, TextField*, Progress*>;
+using Outlet = std::variant<Button*, TextField*, Progress*, TabView*, RadioMatrix*, ImageView*,
+                            DocumentView*, OutlineView*, TableView*, MenuItem*>;
 
 struct NamedOutlet {
     std::string_view name;

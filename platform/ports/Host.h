@@ -2,9 +2,6 @@
 // references; whoever makes it keeps the adapters alive.
 #pragma once
 
-#include <functional>
-#include <string_view>
-
 #include "platform/ports/Administrator.h"
 #include "platform/ports/Applications.h"
 #include "platform/ports/Bundles.h"
@@ -17,6 +14,7 @@
 #include "platform/ports/SystemPlaces.h"
 #include "platform/ports/TextStreams.h"
 #include "platform/ports/Tools.h"
+#include "platform/ports/Watchers.h"
 
 namespace ports {
 
@@ -37,9 +35,10 @@ struct Host {
     AlertSheets& alertSheets;
     ModalLoop& modalLoop;
     Appearance& appearance;
-    /// Told each message of the install log as it is written, on the thread that writes. May be
-    /// empty.
-    std::function<void(std::string_view)> logged = {};
+    FileChoosers& fileChoosers;
+    Reader& reader;
+    Beeper& beeper;
+    Watchers watchers = {};
 };
 
 } // namespace ports

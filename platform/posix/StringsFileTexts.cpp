@@ -1,6 +1,7 @@
 #include "platform/posix/StringsFileTexts.h"
 
 #include <algorithm>
+#include <filesystem>
 #include <optional>
 
 #include "platform/posix/PlistReader.h"
@@ -22,7 +23,7 @@ std::string languageOf(const std::string& locale) {
 
 } // namespace
 
-StringsFileTexts::StringsFileTexts(const Needs& needs) {
+StringsFileTexts::StringsFileTexts(const Needs& needs) : m_resourceFolder(needs.resourceFolder) {
     for (const std::string& locale : needs.languages) {
         const std::string language = languageOf(locale);
         const std::string base = language.substr(0, language.find_first_of("_-"));
@@ -33,6 +34,7 @@ StringsFileTexts::StringsFileTexts(const Needs& needs) {
                                                      ".lproj/Localizable.strings");
             if (table) {
                 m_table = table->strings();
+                m_language = name;
                 return;
             }
         }
@@ -41,9 +43,19 @@ StringsFileTexts::StringsFileTexts(const Needs& needs) {
     }
 }
 
-std::string StringsFileTexts::lookUp(std::string_view key) const {
+std::string StringsFileTexts::translated(std::string_view key) const {
     const auto entry = m_table.find(key);
     return entry == m_table.end() ? std::string(key) : entry->second;
+}
+
+std::optional<std::string> StringsFileTexts::file(std::string_view name) const {
+    for (const std::string& language : {m_language, std::string("en")}) {
+        std::string path = m_resourceFolder + "/" + language + ".lproj/" + std::string(name);
+        std::error_code ignored;
+        if (std::filesystem::is_regular_file(path, ignored))
+            return path;
+    }
+    return std::nullopt;
 }
 
 } // namespace posix

@@ -23,9 +23,12 @@ class StringsFileTexts final : public ports::LocalizedTexts {
     /// A name that can't be a language's is passed over, and so is a table that can't be read.
     explicit StringsFileTexts(const Needs& needs);
 
-    std::string lookUp(std::string_view key) const override;
+    std::string translated(std::string_view english) const override;
+    std::optional<std::string> file(std::string_view name) const override;
 
   private:
+    std::string m_resourceFolder;
+    std::string m_language = "en";
     std::map<std::string, std::string, std::less<>> m_table;
 };
 

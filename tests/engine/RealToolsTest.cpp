@@ -53,7 +53,10 @@ struct RealTools : testing::Test {
                                        .interfaceFiles = host.interfaceFiles,
                                        .alertSheets = host.alertSheets,
                                        .modalLoop = host.modalLoop,
-                                       .appearance = host.appearance});
+                                       .appearance = host.appearance,
+                                       .fileChoosers = host.fileChoosers,
+                                       .reader = host.reader,
+                                       .beeper = host.beeper});
     }
 
     std::string make(const std::string& name, const std::string& text = "text") {

@@ -11,11 +11,13 @@
 #include "tests/fakes/FakeApplications.h"
 #include "tests/fakes/FakeBundles.h"
 #include "tests/fakes/FakeClock.h"
+#include "tests/fakes/FakeFileChoosers.h"
 #include "tests/fakes/FakeFinderFiles.h"
 #include "tests/fakes/FakeInterfaceFiles.h"
 #include "tests/fakes/FakeLocalizedTexts.h"
 #include "tests/fakes/FakeModalLoop.h"
 #include "tests/fakes/FakeQueues.h"
+#include "tests/fakes/FakeReader.h"
 #include "tests/fakes/FakeSystemLog.h"
 #include "tests/fakes/FakeTextStreams.h"
 #include "tests/fakes/FakeTools.h"
@@ -39,6 +41,10 @@ struct FakeHost {
     FakeAlertSheets alertSheets;
     FakeModalLoop modalLoop;
     FakeAppearance appearance;
+    FakeFileChoosers fileChoosers;
+    FakeReader reader;
+    FakeBeeper beeper;
+    ports::Watchers watchers;
 
     ports::Host host() {
         return {.places = places,
@@ -56,7 +62,11 @@ struct FakeHost {
                 .interfaceFiles = interfaceFiles,
                 .alertSheets = alertSheets,
                 .modalLoop = modalLoop,
-                .appearance = appearance};
+                .appearance = appearance,
+                .fileChoosers = fileChoosers,
+                .reader = reader,
+                .beeper = beeper,
+                .watchers = watchers};
     }
 
     /// The log's lines without their dates.

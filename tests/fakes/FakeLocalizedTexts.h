@@ -2,6 +2,7 @@
 #pragma once
 
 #include <map>
+#include <optional>
 #include <string>
 #include <vector>
 
@@ -15,10 +16,17 @@ class FakeLocalizedTexts final : public ports::LocalizedTexts {
     /// Every key that was looked up, in order.
     mutable std::vector<std::string> lookedUp;
 
-    std::string lookUp(std::string_view key) const override {
+    /// Paths by the names of resource files.
+    std::map<std::string, std::string, std::less<>> files;
+
+    std::string translated(std::string_view key) const override {
         lookedUp.emplace_back(key);
         const auto entry = table.find(key);
         return entry == table.end() ? std::string(key) : entry->second;
+    }
+    std::optional<std::string> file(std::string_view name) const override {
+        const auto entry = files.find(name);
+        return entry == files.end() ? std::nullopt : std::optional(entry->second);
     }
 };
 

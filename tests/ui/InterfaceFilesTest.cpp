@@ -198,7 +198,7 @@ TEST_P(EveryLanguage, FitsIntoTheWindow) {
         }
     }
     for (const char* key : {"Install", "Cancel"}) {
-        models.m_button.setTitle(texts.lookUp(key));
+        models.m_button.setTitle(texts.translated(key));
         QApplication::processEvents();
         const auto* button = dialogOnScreen()->findChild<QPushButton*>("m_button");
         EXPECT_LE(button->sizeHint().width(), button->width());

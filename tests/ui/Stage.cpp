@@ -49,14 +49,14 @@ TableTexts::TableTexts(const std::string& language) {
     plist_free(root);
 }
 
-std::string TableTexts::lookUp(std::string_view key) const {
+std::string TableTexts::translated(std::string_view key) const {
     const auto found = m_table.find(key);
     return found == m_table.end() ? std::string(key) : found->second;
 }
 
 std::string formatted(const ports::LocalizedTexts& texts, std::string_view key,
                       std::initializer_list<std::string_view> values) {
-    std::string text = texts.lookUp(key);
+    std::string text = texts.translated(key);
     std::size_t at = 0;
     for (const std::string_view value : values) {
         at = text.find("%@", at);

@@ -32,7 +32,8 @@ namespace stage {
 class TableTexts final : public ports::LocalizedTexts {
   public:
     explicit TableTexts(const std::string& language);
-    std::string lookUp(std::string_view key) const override;
+    std::string translated(std::string_view key) const override;
+    std::optional<std::string> file(std::string_view) const override { return std::nullopt; }
     const std::map<std::string, std::string, std::less<>>& table() const { return m_table; }
 
   private:
