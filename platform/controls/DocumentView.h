@@ -5,6 +5,7 @@
 #include <utility>
 
 #include "platform/controls/Control.h"
+#include "platform/controls/StyledText.h"
 
 namespace controls {
 
@@ -12,14 +13,14 @@ class DocumentView final : public Control {
   public:
     /// The file whose text is in sight, an HTML file; empty for a text of the core's own.
     const std::string& file() const { return m_file; }
-    /// The core's own text, plain; empty when a file is shown.
-    const std::string& text() const { return m_text; }
+    /// The core's own text; empty when a file is shown.
+    const StyledText& text() const { return m_text; }
 
     void setFile(std::string path) { show(std::move(path), {}); }
-    void setText(std::string text) { show({}, std::move(text)); }
+    void setText(StyledText text) { show({}, std::move(text)); }
 
   private:
-    void show(std::string file, std::string text) {
+    void show(std::string file, StyledText text) {
         if (file == m_file && text == m_text)
             return;
         m_file = std::move(file);
@@ -28,7 +29,7 @@ class DocumentView final : public Control {
     }
 
     std::string m_file;
-    std::string m_text;
+    StyledText m_text;
 };
 
 } // namespace controls

@@ -2,15 +2,16 @@
 // the view keeps none of them, but which row the user has selected.
 #pragma once
 
-#include <string>
+#include <functional>
 #include <string_view>
+#include <utility>
 
 #include "platform/controls/Control.h"
 
 namespace controls {
 
-/// One row of an outline. What it is only its data source knows; it lives until the next
-/// `reloadData`. A null pointer stands for the root, which has no row.
+/// One row of an outline. What it is only its data source knows, and it lives as long as that
+/// does. A null pointer stands for the root, which has no row.
 class OutlineItem {
   protected:
     ~OutlineItem() = default;
@@ -70,6 +71,20 @@ class OutlineView final : public Control {
     /// Counts the calls of `reloadData`.
     unsigned generation() const { return m_generation; }
 
+    /// The row that the user has selected, null for none.
+    OutlineItem* selectedItem() const { return m_selected; }
+    void select(OutlineItem* item) {
+        if (item == m_selected)
+            return;
+        m_selected = item;
+        changed();
+        if (const auto action = m_selectionDidChange)
+            action();
+    }
+    void setSelectionDidChange(std::function<void()> action) {
+        m_selectionDidChange = std::move(action);
+    }
+
     /// A click on the item's check box: sets it when it is off or mixed, else clears it. False, and
     /// nothing happens, where the box is disabled or can't be edited.
     bool press(OutlineItem* item) {
@@ -92,6 +107,8 @@ class OutlineView final : public Control {
     OutlineDataSource* m_dataSource = nullptr;
     OutlineDelegate* m_delegate = nullptr;
     unsigned m_generation = 0;
+    OutlineItem* m_selected = nullptr;
+    std::function<void()> m_selectionDidChange;
 };
 
 } // namespace controls
