@@ -1,12 +1,13 @@
 #include "rules/ecRules.h"
 
 #include <algorithm>
+#include <array>
+#include <cstdio>
 #include <filesystem>
-#include <fstream>
 #include <limits>
+#include <memory>
 #include <numeric>
 #include <system_error>
-#include <utility>
 
 #include <utf8proc.h>
 
@@ -15,6 +16,7 @@ namespace ec {
 namespace {
 
 constexpr std::string_view kFileName = "Customizer.rules.txt";
+constexpr std::size_t kMostBytes = std::numeric_limits<std::int32_t>::max();
 constexpr char kFieldEnd = '|';
 enum FieldNumber : std::size_t { kName, kFlag, kDesc, kMethod, kFirstFile };
 
@@ -57,21 +59,25 @@ bool isUtf8(std::string_view text) {
 }
 
 /// None where the constructor promises no lines.
-std::optional<std::string> textOf(const std::filesystem::path& file) {
+std::optional<std::string> textOf(const std::filesystem::path& path) {
     std::error_code error;
-    if (!std::filesystem::is_regular_file(file, error))
+    if (!std::filesystem::is_regular_file(path, error))
         return std::nullopt;
-    const std::uintmax_t size = std::filesystem::file_size(file, error);
-    if (error || size > std::numeric_limits<std::int32_t>::max())
+    const std::uintmax_t size = std::filesystem::file_size(path, error);
+    const std::unique_ptr<std::FILE, int (*)(std::FILE*)> file(std::fopen(path.c_str(), "rb"),
+                                                               &std::fclose);
+    if (error || size > kMostBytes || !file)
         return std::nullopt;
-    std::ifstream stream(file, std::ios::binary);
-    std::string text(static_cast<std::size_t>(size), '\0');
-    stream.read(text.data(), static_cast<std::streamsize>(size));
-    // A file that has become shorter since it was measured is read as far as it goes.
-    if (stream.bad() || !stream.is_open())
-        return std::nullopt;
-    text.resize(static_cast<std::size_t>(stream.gcount()));
-    if (!isUtf8(text))
+    std::string text;
+    text.reserve(static_cast<std::size_t>(size));
+    // To its end, not for its size: it may have changed since, and some files don't tell theirs.
+    std::array<char, 64 * 1024> block{};
+    while (const std::size_t got = std::fread(block.data(), 1, block.size(), file.get())) {
+        text.append(block.data(), got);
+        if (text.size() > kMostBytes)
+            return std::nullopt;
+    }
+    if (std::ferror(file.get()) != 0 || !isUtf8(text))
         return std::nullopt;
     return text;
 }
