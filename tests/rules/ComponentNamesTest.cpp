@@ -61,8 +61,9 @@ TEST_F(ComponentNames, MayHoldASlash) {
 }
 
 TEST_F(ComponentNames, AreTakenToTheLetter) {
-    for (const char* name : {"", "/", "styles", "Styles ", "Styles/", "/Law", "Law/Styles",
-                             "Filters/Law", "Stylesx/Law", "Styles/Chemistry/Law", "Chem"})
+    for (const char* name :
+         {"", "/", "styles", "Styles ", "Styles/", "/Law", "Law/Styles", "Filters/Law",
+          "Stylesx/Law", "Styles:Law", "Styles/Lax", "styles/Law", "Styles/Chemistry/Law", "Chem"})
         EXPECT_EQ(find(name), "none") << name;
 }
 

@@ -6,6 +6,7 @@
 
 #include <gmock/gmock.h>
 #include <gtest/gtest.h>
+#include <sys/stat.h>
 #include <unistd.h>
 
 #include "rules/ecRules.h"
@@ -111,6 +112,11 @@ TEST_F(RulesFile, InAMissingFolderHasNoLines) {
 
 TEST_F(RulesFile, ThatIsAFolderHasNoLines) {
     fs::create_directory(file());
+    expectNoLines();
+}
+
+TEST_F(RulesFile, ThatIsAPipeHasNoLinesAndIsNotWaitedFor) {
+    ASSERT_EQ(::mkfifo(file().c_str(), 0600), 0);
     expectNoLines();
 }
 
