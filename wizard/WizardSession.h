@@ -5,11 +5,20 @@
 
 #include <cstdint>
 #include <string>
+#include <vector>
 
+#include "engine/OpMode.h"
 #include "platform/ports/Bundles.h"
 #include "platform/ports/SystemPlaces.h"
 
 namespace ec {
+
+/// What became of one component in a run: the summary tells it.
+struct Outcome {
+    std::string title;
+    OpMode mode = OpMode::copy;
+    bool succeeded = false;
+};
 
 struct WizardSession {
     WizardSession(const ports::Bundles& bundles, ports::SystemPlaces systemPlaces)
@@ -36,6 +45,9 @@ struct WizardSession {
     bool m_bUninstall = false;
     /// The user wants the add-in in Word.
     bool m_bCustomizeMSWord = false;
+
+    /// What was done since the wizard was opened, in order.
+    std::vector<Outcome> outcomes;
 };
 
 } // namespace ec

@@ -4,42 +4,62 @@
 // running.
 //
 // The bases stand in the order of their needs: a facet may be handed only what stands to its left.
-// `init` is the constructor; it needs no window. Main thread, but for what a facet says otherwise.
+// Only calls by name go the other way. `init` is the constructor; it needs no window. Main thread,
+// but for what a facet says otherwise.
 #pragma once
 
 #include "engine/CommandRunner.h"
 #include "engine/FileOperations.h"
+#include "engine/InstallDriver.h"
+#include "engine/SpotlightServices.h"
+#include "patcher/Patcher.h"
 #include "platform/ports/Host.h"
+#include "rules/ComponentOutline.h"
+#include "wizard/ActionPerformer.h"
+#include "wizard/AlertPanels.h"
 #include "wizard/InstallLog.h"
 #include "wizard/WizardOutlets.h"
+#include "wizard/WizardPages.h"
 #include "wizard/WizardSession.h"
 #include "wizard/WizardStartUp.h"
+#include "wizard/WizardSteps.h"
+#include "wizard/WizardTexts.h"
+#include "word/AlternateLocations.h"
 #include "word/AppDiscovery.h"
+#include "word/Breadcrumbs.h"
+#include "word/WordStartupFolders.h"
 
 namespace ec {
 
-class ecController final : public WizardOutlets,
+class ecController final : public ActionPerformer,
+                           public WizardOutlets,
                            public WizardSession,
                            public InstallLog,
+                           public AlertPanels,
+                           public WizardSteps,
                            public CommandRunner,
                            public FileOperations,
+                           public Breadcrumbs,
                            public AppDiscovery,
+                           public WordStartupFolders,
+                           public SpotlightServices,
+                           public InstallDriver,
+                           public ComponentOutline,
+                           public AlternateLocations,
+                           public Patcher,
+                           public WizardTexts,
+                           public WizardPages,
                            public WizardStartUp {
   public:
-    explicit ecController(const ports::Host& host)
-        : WizardSession(host.bundles, host.places), InstallLog({.places = host.places,
-                                                                .clock = host.clock,
-                                                                .streams = host.streams,
-                                                                .processingText = processingText,
-                                                                .written = host.watchers.logged}),
-          CommandRunner({.log = *this,
-                         .session = *this,
-                         .tools = host.tools,
-                         .administrator = host.administrator,
-                         .streams = host.streams}),
-          FileOperations({.log = *this, .runner = *this, .finderFiles = host.finderFiles}),
-          AppDiscovery({.applications = host.applications, .bundles = host.bundles}),
-          WizardStartUp({.session = *this}) {}
+    /// `init`. `root` is the tree over `rules`; both outlive the controller.
+    ecController(const ports::Host& host, ecRules& rules, ecItem& root);
+
+    ActionResult runSelector(std::string_view name) override;
+    /// Is there an action of that name?
+    static bool hasAction(std::string_view name);
+
+  private:
+    ports::SystemLog& m_systemLog;
 };
 
 } // namespace ec

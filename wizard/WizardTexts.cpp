@@ -1,0 +1,136 @@
+#include "wizard/WizardTexts.h"
+
+#include <algorithm>
+#include <array>
+#include <fstream>
+#include <iterator>
+
+#include "engine/LogText.h"
+#include "wizard/InstallLog.h"
+
+namespace ec {
+
+namespace {
+
+using controls::DocumentView;
+using controls::Progress;
+
+struct PageDocument {
+    DocumentView WizardOutlets::* view;
+    std::string_view file;
+};
+constexpr std::array kDocuments{
+    PageDocument{&WizardOutlets::welcomeText, "Welcome.html"},
+    PageDocument{&WizardOutlets::patchWelcomeText, "UpdateWelcome.html"},
+    PageDocument{&WizardOutlets::readMeText, "ReadMe.html"},
+    PageDocument{&WizardOutlets::licenseText, "License.html"},
+};
+
+struct PageSummary {
+    int page;
+    DocumentView WizardOutlets::* view;
+};
+constexpr std::array kSummaries{
+    PageSummary{7, &WizardOutlets::installSummary},
+    PageSummary{8, &WizardOutlets::changeSummary},
+    PageSummary{11, &WizardOutlets::uninstallSummary},
+    PageSummary{17, &WizardOutlets::patchSummary},
+    PageSummary{27, &WizardOutlets::penmarkSummary},
+    PageSummary{28, &WizardOutlets::penmarkUninstallSummary},
+};
+
+struct PageProgress {
+    int page;
+    Progress WizardOutlets::* indicator;
+};
+constexpr std::array kProgresses{
+    PageProgress{0, &WizardOutlets::custProgress},
+    PageProgress{10, &WizardOutlets::progress},
+};
+
+/// What the summary says of one component; by what was done and whether it went well.
+ports::TextKey sentenceFor(const Outcome& outcome) {
+    if (outcome.mode == OpMode::remove)
+        return outcome.succeeded ? ports::TextKey("%@ was removed.")
+                                 : ports::TextKey("%@ could not be removed.");
+    return outcome.succeeded ? ports::TextKey("%@ was installed.")
+                             : ports::TextKey("%@ could not be installed.");
+}
+
+} // namespace
+
+WizardTexts::WizardTexts(Needs needs) : m_needs(needs) {
+    m_needs.outlets.helpBtn.setAction([this] { showHelp(); });
+    m_needs.outlets.logBtn.setAction([this] { showLog(); });
+    m_needs.outlets.ecTabView.addObserver(*this);
+}
+
+WizardTexts::~WizardTexts() {
+    m_needs.outlets.ecTabView.removeObserver(*this);
+}
+
+std::string WizardTexts::missing(std::string_view name) const {
+    return formatted(m_needs.texts.lookUp("The text “%@” is missing from this copy of the "
+                                          "installer. Get a complete copy to read it."),
+                     {name});
+}
+
+void WizardTexts::showDocuments() {
+    for (const auto& [view, name] : kDocuments) {
+        DocumentView& document = m_needs.outlets.*view;
+        if (const auto file = m_needs.texts.file(name))
+            document.setFile(*file);
+        else
+            document.setText(controls::StyledText::plain(missing(name)));
+    }
+    m_needs.outlets.aboutText.setText(m_needs.session.m_aboutFileString);
+}
+
+void WizardTexts::showHelp() {
+    constexpr std::string_view kHelp = "Help.html";
+    const auto file = m_needs.texts.file(kHelp);
+    m_needs.reader.read(
+        {.title = m_needs.texts.lookUp("Help"),
+         .file = file.value_or(""),
+         .anchor = "page" + std::to_string(m_needs.outlets.ecTabView.selected()),
+         .text = file ? "" : missing(kHelp)},
+        m_needs.outlets.window);
+}
+
+void WizardTexts::showLog() {
+    std::ifstream file(m_needs.session.places.expandTilde(gLogName), std::ios::binary);
+    std::string lines{std::istreambuf_iterator<char>(file), {}};
+    m_needs.reader.read({.title = m_needs.texts.lookUp("Install Log"),
+                         .file = {},
+                         .anchor = {},
+                         .text = lines.empty()
+                                     ? m_needs.texts.lookUp("The install log is empty.")
+                                     : std::move(lines)},
+                        m_needs.outlets.window);
+}
+
+controls::StyledText WizardTexts::summary() const {
+    if (m_needs.session.outcomes.empty())
+        return controls::StyledText::plain(m_needs.texts.lookUp("Nothing was changed."));
+    controls::StyledText text;
+    for (const Outcome& outcome : m_needs.session.outcomes)
+        text.runs.push_back(
+            {formatted(m_needs.texts.lookUp(sentenceFor(outcome)), {outcome.title}) + "\n",
+             {},
+             !outcome.succeeded});
+    text.paragraphSpacing = 4;
+    return text;
+}
+
+void WizardTexts::controlChanged(controls::Control&) {
+    const int page = m_needs.outlets.ecTabView.selected();
+    for (const auto& [its, indicator] : kProgresses)
+        if (page != its)
+            (m_needs.outlets.*indicator).stopAnimation();
+    const auto* shown = std::ranges::find(kSummaries, page, &PageSummary::page);
+    m_needs.outlets.logBtn.setHidden(shown == kSummaries.end());
+    if (shown != kSummaries.end())
+        (m_needs.outlets.*shown->view).setText(summary());
+}
+
+} // namespace ec

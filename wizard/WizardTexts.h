@@ -1,0 +1,47 @@
+// The texts that the wizard shows to be read: welcome, read-me and licence from files of the
+// resources, the help of the page in sight, the install log, and the summaries of what was done.
+// Keeps what belongs to a page in step with the page shown. Changes nothing on the system.
+// Main thread only.
+#pragma once
+
+#include <string>
+#include <string_view>
+
+#include "platform/ports/FrontEnd.h"
+#include "platform/ports/LocalizedTexts.h"
+#include "wizard/WizardOutlets.h"
+#include "wizard/WizardSession.h"
+
+namespace ec {
+
+class WizardTexts : private controls::Control::Observer {
+  public:
+    struct Needs {
+        const WizardSession& session;
+        WizardOutlets& outlets;
+        const ports::LocalizedTexts& texts;
+        ports::Reader& reader;
+    };
+    /// Gives the Help and Show Log buttons their actions.
+    explicit WizardTexts(Needs needs);
+    ~WizardTexts();
+    WizardTexts(const WizardTexts&) = delete;
+    WizardTexts& operator=(const WizardTexts&) = delete;
+
+    /// Fills the pages with their documents. A file that is missing is said to be.
+    void showDocuments();
+
+    /// Shows the help text of the page in sight.
+    void showHelp();
+    /// Shows the install log.
+    void showLog();
+
+  private:
+    void controlChanged(controls::Control& control) override;
+    std::string missing(std::string_view name) const;
+    controls::StyledText summary() const;
+
+    Needs m_needs;
+};
+
+} // namespace ec

@@ -1,0 +1,82 @@
+#include "wizard/ecController.h"
+
+#include "wizard/ActionTable.h"
+
+namespace ec {
+
+ecController::ecController(const ports::Host& host, ecRules& rules, ecItem& root)
+    : WizardSession(host.bundles, host.places), InstallLog({.places = host.places,
+                                                            .clock = host.clock,
+                                                            .streams = host.streams,
+                                                            .processingText = processingText,
+                                                            .written = host.watchers.logged}),
+      AlertPanels({.session = *this,
+                   .window = WizardOutlets::window,
+                   .interfaceFiles = host.interfaceFiles,
+                   .modalLoop = host.modalLoop,
+                   .fileChoosers = host.fileChoosers,
+                   .systemLog = host.systemLog,
+                   .texts = host.texts,
+                   .answered = host.watchers.answered}),
+      WizardSteps({.actions = *this,
+                   .outlets = *this,
+                   .session = *this,
+                   .texts = host.texts,
+                   .appearance = host.appearance,
+                   .beeper = host.beeper,
+                   .rowShown = host.watchers.rowShown}),
+      CommandRunner({.log = *this,
+                     .session = *this,
+                     .tools = host.tools,
+                     .administrator = host.administrator,
+                     .streams = host.streams}),
+      FileOperations({.log = *this, .runner = *this, .finderFiles = host.finderFiles}),
+      Breadcrumbs({.log = *this, .session = *this, .lists = host.propertyLists}),
+      AppDiscovery({.applications = host.applications, .bundles = host.bundles}),
+      WordStartupFolders({.log = *this, .bundles = host.bundles}),
+      SpotlightServices({.rules = rules, .outlets = *this, .steps = *this}),
+      InstallDriver({.log = *this, .session = *this, .steps = *this}),
+      ComponentOutline({.root = root, .ecOutlineView = WizardOutlets::ecOutlineView}),
+      AlternateLocations({.log = *this}),
+      Patcher({.log = *this, .outlets = *this, .steps = *this}),
+      WizardTexts({.session = *this, .outlets = *this, .texts = host.texts, .reader = host.reader}),
+      WizardPages({.log = *this,
+                   .session = *this,
+                   .outlets = *this,
+                   .steps = *this,
+                   .panels = *this,
+                   .runner = *this,
+                   .discovery = *this,
+                   .startupFolders = *this,
+                   .driver = *this,
+                   .alternateLocations = *this,
+                   .texts = host.texts,
+                   .modalLoop = host.modalLoop}),
+      WizardStartUp({.session = *this,
+                     .outlets = *this,
+                     .log = *this,
+                     .steps = *this,
+                     .breadcrumbs = *this,
+                     .startupFolders = *this,
+                     .components = *this,
+                     .texts = *this,
+                     .interfaceFiles = host.interfaceFiles,
+                     .modalLoop = host.modalLoop,
+                     .systemLog = host.systemLog,
+                     .localizedTexts = host.texts}),
+      m_systemLog(host.systemLog) {}
+
+ActionResult ecController::runSelector(std::string_view name) {
+    if (name.empty())
+        return ActionResult::nothing;
+    if (const Action action = actionNamed(name))
+        return action(*this);
+    m_systemLog.write("There is no action named \"" + std::string(name) + "\"");
+    return ActionResult::nothing;
+}
+
+bool ecController::hasAction(std::string_view name) {
+    return actionNamed(name) != nullptr;
+}
+
+} // namespace ec
