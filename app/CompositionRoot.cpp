@@ -85,6 +85,7 @@ Run::Run(const CommandLine& options, AnswersFile answers, int& argc, char** argv
              .applications = *m_adapters.applications,
              .finderFiles = *m_adapters.finderFiles,
              .bundles = m_adapters.bundles,
+             .propertyLists = m_adapters.propertyLists,
              .texts = m_adapters.texts,
              .mainQueue = m_adapters.mainQueue,
              .backgroundQueue = m_adapters.backgroundQueue,

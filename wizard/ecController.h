@@ -15,6 +15,7 @@
 #include "wizard/WizardSession.h"
 #include "wizard/WizardStartUp.h"
 #include "word/AppDiscovery.h"
+#include "word/Breadcrumbs.h"
 
 namespace ec {
 
@@ -23,6 +24,7 @@ class ecController final : public WizardOutlets,
                            public InstallLog,
                            public CommandRunner,
                            public FileOperations,
+                           public Breadcrumbs,
                            public AppDiscovery,
                            public WizardStartUp {
   public:
@@ -38,6 +40,7 @@ class ecController final : public WizardOutlets,
                          .administrator = host.administrator,
                          .streams = host.streams}),
           FileOperations({.log = *this, .runner = *this, .finderFiles = host.finderFiles}),
+          Breadcrumbs({.log = *this, .session = *this, .lists = host.propertyLists}),
           AppDiscovery({.applications = host.applications, .bundles = host.bundles}),
           WizardStartUp({.session = *this}) {}
 };

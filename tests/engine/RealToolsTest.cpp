@@ -47,6 +47,7 @@ struct RealTools : testing::Test {
                                        .applications = host.applications,
                                        .finderFiles = finderFiles,
                                        .bundles = host.bundles,
+                                       .propertyLists = host.propertyLists,
                                        .texts = host.texts,
                                        .mainQueue = host.mainQueue,
                                        .backgroundQueue = host.backgroundQueue,
