@@ -14,6 +14,7 @@
 #include "platform/ports/Applications.h"
 #include "platform/ports/FinderFiles.h"
 #include "platform/ports/SystemPlaces.h"
+#include "platform/posix/FilePropertyLists.h"
 #include "platform/posix/FileTextStreams.h"
 #include "platform/posix/PlistBundles.h"
 #include "platform/posix/SpawnedTools.h"
@@ -34,6 +35,7 @@ struct Adapters {
     posix::StandardSystemLog systemLog;
     posix::FileTextStreams streams;
     posix::PlistBundles bundles;
+    posix::FilePropertyLists propertyLists;
     posix::StringsFileTexts texts;
     EventStream events;
     /// Told on the main thread what a tool of our own reports; set by whoever shows it.

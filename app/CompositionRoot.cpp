@@ -54,6 +54,7 @@ class Run {
     FrontEndPorts m_frontEnd;
     ObservedAlerts m_alerts;
     ports::Host m_host;
+    ec::ecRules& m_rules;
     myAppDelegate m_delegate;
     std::optional<ControlWatcher> m_watcher;
 };
@@ -85,6 +86,7 @@ Run::Run(const CommandLine& options, AnswersFile answers, int& argc, char** argv
              .applications = *m_adapters.applications,
              .finderFiles = *m_adapters.finderFiles,
              .bundles = m_adapters.bundles,
+             .propertyLists = m_adapters.propertyLists,
              .texts = m_adapters.texts,
              .mainQueue = m_adapters.mainQueue,
              .backgroundQueue = m_adapters.backgroundQueue,
@@ -99,7 +101,10 @@ Run::Run(const CommandLine& options, AnswersFile answers, int& argc, char** argv
                               [this](std::string_view line) {
                                   m_adapters.events.emit("log", {{"line", line}});
                               }}},
+      m_rules(ec::ecRules::mainRules(m_adapters.bundles.mainResourceFolder())),
       m_delegate({.host = m_host,
+                  .rules = m_rules,
+                  .root = ec::ecItem::rootItem(m_rules),
                   .finishBackgroundWork = [this] { finishBackgroundWork(); },
                   .willRun = [this](ScrivelInstaller& installer) { watch(installer); }}) {
     if (options.events)

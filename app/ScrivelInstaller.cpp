@@ -58,8 +58,8 @@ void removeTree(const std::string& path) {
 
 } // namespace
 
-ScrivelInstaller::ScrivelInstaller(const ports::Host& host)
-    : m_host(host), m_ecController(host),
+ScrivelInstaller::ScrivelInstaller(const ports::Host& host, ec::ecRules& rules, ec::ecItem& root)
+    : m_host(host), m_ecController(host, rules, root),
       m_outlets{m_window,
                 {{"m_button", &m_button},
                  {"m_statusTextField", &m_statusTextField},

@@ -36,8 +36,9 @@ class ScrivelInstaller {
         finished, ///< the installation block is done, cancelled or not
     };
 
-    /// `init`: loads the window "ScrivelInstaller" and prepares it.
-    explicit ScrivelInstaller(const ports::Host& host);
+    /// `init`: loads the window "ScrivelInstaller" and prepares it. The rules and their tree are
+    /// for its controller.
+    ScrivelInstaller(const ports::Host& host, ec::ecRules& rules, ec::ecItem& root);
     ScrivelInstaller(const ScrivelInstaller&) = delete;
     ScrivelInstaller& operator=(const ScrivelInstaller&) = delete;
 

@@ -3,7 +3,7 @@
 namespace app {
 
 std::optional<int> myAppDelegate::applicationDidFinishLaunching() {
-    m_installer.emplace(m_needs.host);
+    m_installer.emplace(m_needs.host, m_needs.rules, m_needs.root);
     if (!m_installer->isWindowLoaded())
         return std::nullopt;
     m_needs.willRun(*m_installer);

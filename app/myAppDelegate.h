@@ -13,6 +13,9 @@ class myAppDelegate {
   public:
     struct Needs {
         const ports::Host& host;
+        /// The components, for the window's controller.
+        ec::ecRules& rules;
+        ec::ecItem& root;
         /// Runs the main queue until no work is left in the background.
         std::function<void()> finishBackgroundWork;
         /// Called with the window's object before its session begins.

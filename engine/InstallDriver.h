@@ -1,7 +1,7 @@
 // The driver of the install methods: finds out what is installed, and applies the user's choices.
 // The wizard's pages start it when they have turned the window busy; it steps the wizard on when it
-// is done. No install method is part of this build yet, so there is nothing to do for any component:
-// each entry says so in the log, and steps as it must. Main thread.
+// is done. No install method is part of this build yet, so there is nothing to do for any
+// component: each entry says so in the log, and steps as it must. Main thread.
 #pragma once
 
 #include "wizard/InstallLog.h"

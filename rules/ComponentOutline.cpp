@@ -33,6 +33,13 @@ void ComponentOutline::attach() {
     m_needs.ecOutlineView.reloadData();
 }
 
+void ComponentOutline::settleGroups() {
+    for (const auto& group : m_needs.root.children())
+        if (group->numberOfChildren() != 0 && !group->getItemMethod())
+            group->setItemState(group->determineState());
+    m_needs.ecOutlineView.reloadData();
+}
+
 ComponentOutline::Found ComponentOutline::find(std::string_view name) const {
     Found found;
     const auto take = [&found](ecItem& item) {

@@ -40,6 +40,10 @@ class ComponentOutline : public controls::OutlineDataSource, public controls::Ou
     /// Becomes the outline view's data source and delegate and has it reloaded.
     void attach();
 
+    /// Gives every group that has members and no install method of its own, and which no check
+    /// therefore looks at, the state that its members have in common.
+    void settleGroups();
+
     /// What `find` came to: the component, or null with the reason.
     struct Found {
         ecItem* item = nullptr;

@@ -47,6 +47,9 @@ class ecItem final : public controls::OutlineItem {
     std::optional<std::string_view> getItemDescription() const {
         return m_rules.getItemDesc(m_itemNum);
     }
+    std::optional<std::string_view> getItemMethod() const {
+        return m_rules.getItemMethod(m_itemNum);
+    }
     std::int32_t getItemState() const { return m_rules.getItemState(m_itemNum); }
     std::int32_t getItemInitialState() const { return m_rules.getItemInitialState(m_itemNum); }
     /// `setItemState:` sets the current state.

@@ -96,8 +96,8 @@ constexpr bool isKnown(std::string_view name) {
 }
 constexpr bool actionsAreKnown(std::span<const StepRow> rows) {
     return std::ranges::all_of(rows, [](const StepRow& row) {
-        return isKnown(row.pictureAction) && isKnown(row.enterAction) &&
-               isKnown(row.leaveAction) && isKnown(row.secondLeaveAction);
+        return isKnown(row.pictureAction) && isKnown(row.enterAction) && isKnown(row.leaveAction) &&
+               isKnown(row.secondLeaveAction);
     });
 }
 // Sorted, and no name stands twice.

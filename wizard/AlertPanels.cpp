@@ -31,10 +31,8 @@ std::optional<std::string> AlertPanels::askUserForApp(const std::optional<std::s
 
 std::optional<std::string> AlertPanels::askUserForDir(const std::string& folder,
                                                       const std::string& message) {
-    return m_needs.fileChoosers.choose({.kind = ports::Chooser::Kind::folder,
-                                        .title = message,
-                                        .folder = folder,
-                                        .types = {}});
+    return m_needs.fileChoosers.choose(
+        {.kind = ports::Chooser::Kind::folder, .title = message, .folder = folder, .types = {}});
 }
 
 } // namespace ec

@@ -42,8 +42,7 @@ class AlertPanels {
 
     /// `askUserForDir:withMessage:` answers the folder that was chosen, starting in `folder`; none
     /// when the user cancelled.
-    std::optional<std::string> askUserForDir(const std::string& folder,
-                                             const std::string& message);
+    std::optional<std::string> askUserForDir(const std::string& folder, const std::string& message);
 
   private:
     Needs m_needs;

@@ -16,7 +16,7 @@ inline constexpr std::uint32_t kPenmark = 36;
 
 namespace result {
 
-inline constexpr std::int32_t kExited = 129;   ///< after `doExit`
+inline constexpr std::int32_t kExited = 129;    ///< after `doExit`
 inline constexpr std::int32_t kNotLoaded = 131; ///< the interface file can't be loaded
 
 } // namespace result

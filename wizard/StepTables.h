@@ -72,8 +72,8 @@ inline constexpr std::array<StepRow, 9> gEasyList{
     tables::kTerminator,
 };
 inline constexpr std::array<OutlineRow, 6> gEasyNavList{
-    tables::entry("Welcome", 1),       tables::entry("Read Me", 4),
-    tables::entry("License", 5),       tables::entry("Customization", 6),
+    tables::entry("Welcome", 1),          tables::entry("Read Me", 4),
+    tables::entry("License", 5),          tables::entry("Customization", 6),
     tables::entry("Updating System", 10), tables::entry("Summary", 7),
 };
 
@@ -168,9 +168,8 @@ inline constexpr std::array<PageTitle, 14> gInstallStateLabels{{
 
 namespace tables {
 
-inline constexpr std::array<std::span<const StepRow>, 5> kAllSteps{gEasyList, gAutoList,
-                                                                   gCustomList, gPatchList,
-                                                                   gSVWebInstList};
+inline constexpr std::array<std::span<const StepRow>, 5> kAllSteps{
+    gEasyList, gAutoList, gCustomList, gPatchList, gSVWebInstList};
 
 /// Ends with a terminator, no label stands twice, and every other row shows the picture.
 constexpr bool isWellFormed(std::span<const StepRow> rows) {

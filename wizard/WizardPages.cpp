@@ -38,7 +38,16 @@ WizardPages::WizardPages(Needs needs) : m_needs(needs) {
     outlets.uninstallBtn.setAction([this] { doUninstall(); });
     outlets.agreeBtns.setAction(kAgreeRow, [this] { agreeChangeAgree(); });
     outlets.agreeBtns.setAction(kDisagreeRow, [this] { agreeChangeDisagree(); });
+    outlets.ecOutlineView.setSelectionDidChange([this] { describeSelectedComponent(); });
     outlets.window.setShouldClose([this](controls::Window&) { return windowShouldClose(); });
+}
+
+void WizardPages::describeSelectedComponent() {
+    const controls::OutlineItem* item = m_needs.outlets.ecOutlineView.selectedItem();
+    m_needs.outlets.infoText.setText(
+        item ? m_needs.texts.translated(m_needs.components.outlineViewObjectValue(
+                   controls::OutlineView::kInfoColumn, item))
+             : std::string());
 }
 
 void WizardPages::next() {
@@ -126,6 +135,7 @@ void WizardPages::startToFind() {
     m_needs.outlets.window.display();
     m_needs.startupFolders.constructWordAndStartupPaths();
     m_needs.driver.installCheck();
+    m_needs.components.settleGroups();
     m_needs.steps.doNextState();
 }
 
@@ -195,9 +205,8 @@ ActionResult WizardPages::doStartSVWeb() {
 }
 
 bool WizardPages::agreedToUninstall(ports::TextKey message, std::string_view label) {
-    if (m_needs.panels.askUserTitle(localized(kInstallerTitle), localized(message),
-                                    localized("No"), localized("Yes"),
-                                    std::nullopt) != kAlternateAnswer)
+    if (m_needs.panels.askUserTitle(localized(kInstallerTitle), localized(message), localized("No"),
+                                    localized("Yes"), std::nullopt) != kAlternateAnswer)
         return false;
     m_needs.session.m_bUninstall = true;
     m_needs.outlets.uninstallBtn.setEnabled(false);

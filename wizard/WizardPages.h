@@ -11,6 +11,7 @@
 #include "engine/InstallDriver.h"
 #include "platform/ports/FrontEnd.h"
 #include "platform/ports/LocalizedTexts.h"
+#include "rules/ComponentOutline.h"
 #include "wizard/AlertPanels.h"
 #include "wizard/InstallLog.h"
 #include "wizard/WizardOutlets.h"
@@ -35,6 +36,7 @@ class WizardPages {
         WordStartupFolders& startupFolders;
         InstallDriver& driver;
         AlternateLocations& alternateLocations;
+        ComponentOutline& components;
         const ports::LocalizedTexts& texts;
         ports::ModalLoop& modalLoop;
     };
@@ -101,7 +103,8 @@ class WizardPages {
     void doGoCustom() { skipToAltPMRK(); }
     void skipToAltPMRK() { m_needs.steps.skipToState("altPMRK"); }
 
-    /// `doStartSVWeb`, on leaving the Penmark welcome page: installs or uninstalls, as chosen there.
+    /// `doStartSVWeb`, on leaving the Penmark welcome page: installs or uninstalls, as chosen
+    /// there.
     ActionResult doStartSVWeb();
     /// `doSVWUninstall` asks whether to uninstall Penmark, and jumps there when the answer is yes;
     /// else it keeps the page.
@@ -116,6 +119,7 @@ class WizardPages {
     std::string localized(ports::TextKey key) const { return m_needs.texts.lookUp(key); }
     void setBackAndCancel(bool enabled);
     void setNextTitle(ports::TextKey title) { m_needs.outlets.nextBtn.setTitle(localized(title)); }
+    void describeSelectedComponent();
     void beginWork();
     bool agreedToUninstall(ports::TextKey message, std::string_view label);
 

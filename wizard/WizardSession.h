@@ -14,7 +14,7 @@
 namespace ec {
 
 /// What became of one component in a run: the summary tells it.
-struct Outcome {
+struct ComponentOutcome {
     std::string title;
     OpMode mode = OpMode::copy;
     bool succeeded = false;
@@ -47,7 +47,7 @@ struct WizardSession {
     bool m_bCustomizeMSWord = false;
 
     /// What was done since the wizard was opened, in order.
-    std::vector<Outcome> outcomes;
+    std::vector<ComponentOutcome> outcomes;
 };
 
 } // namespace ec

@@ -41,9 +41,9 @@ constexpr std::array kModes{
 } // namespace
 
 WizardSteps::WizardSteps(Needs needs) : m_needs(std::move(needs)) {
-    std::ranges::transform(
-        gInstallStateLabels, m_titles.begin(),
-        [this](const PageTitle& label) { return m_needs.texts.lookUp(label.title); });
+    std::ranges::transform(gInstallStateLabels, m_titles.begin(), [this](const PageTitle& label) {
+        return m_needs.texts.lookUp(label.title);
+    });
 }
 
 void WizardSteps::startState(std::uint32_t mode) {
@@ -178,16 +178,16 @@ int WizardSteps::currentOutlineEntry() const {
 
 void WizardSteps::updateOutlineText() {
     const int current = currentOutlineEntry();
-    const auto nameColour =
-        m_needs.appearance.isDark() ? std::optional(kLightGrey) : std::nullopt;
+    const auto nameColour = m_needs.appearance.isDark() ? std::optional(kLightGrey) : std::nullopt;
     StyledText text;
     for (int i = 0; const OutlineRow& entry : gNavListPtr) {
         const bool reached = i <= current;
         const std::string name = "  " + m_needs.texts.lookUp(entry.name) + "\n";
         text.runs.push_back({std::string(kBullet), reached ? kReached : kToCome, reached});
-        text.runs.push_back({name, nameColour ? nameColour
-                                   : reached  ? std::nullopt
-                                              : std::optional(kToCome),
+        text.runs.push_back({name,
+                             nameColour ? nameColour
+                             : reached  ? std::nullopt
+                                        : std::optional(kToCome),
                              i == current});
         ++i;
     }
@@ -196,8 +196,7 @@ void WizardSteps::updateOutlineText() {
 }
 
 std::string WizardSteps::currentTitle() const {
-    const auto* found =
-        std::ranges::find(gInstallStateLabels, currentRow().page, &PageTitle::page);
+    const auto* found = std::ranges::find(gInstallStateLabels, currentRow().page, &PageTitle::page);
     return found == gInstallStateLabels.end()
                ? std::string()
                : m_titles[static_cast<std::size_t>(found - gInstallStateLabels.begin())];

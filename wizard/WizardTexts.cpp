@@ -49,7 +49,7 @@ constexpr std::array kProgresses{
 };
 
 /// What the summary says of one component; by what was done and whether it went well.
-ports::TextKey sentenceFor(const Outcome& outcome) {
+ports::TextKey sentenceFor(const ComponentOutcome& outcome) {
     if (outcome.mode == OpMode::remove)
         return outcome.succeeded ? ports::TextKey("%@ was removed.")
                                  : ports::TextKey("%@ could not be removed.");
@@ -62,11 +62,11 @@ ports::TextKey sentenceFor(const Outcome& outcome) {
 WizardTexts::WizardTexts(Needs needs) : m_needs(needs) {
     m_needs.outlets.helpBtn.setAction([this] { showHelp(); });
     m_needs.outlets.logBtn.setAction([this] { showLog(); });
-    m_needs.outlets.ecTabView.addObserver(*this);
+    m_needs.outlets.ecTabView.addObserver(m_pageWatcher);
 }
 
 WizardTexts::~WizardTexts() {
-    m_needs.outlets.ecTabView.removeObserver(*this);
+    m_needs.outlets.ecTabView.removeObserver(m_pageWatcher);
 }
 
 std::string WizardTexts::missing(std::string_view name) const {
@@ -89,12 +89,11 @@ void WizardTexts::showDocuments() {
 void WizardTexts::showHelp() {
     constexpr std::string_view kHelp = "Help.html";
     const auto file = m_needs.texts.file(kHelp);
-    m_needs.reader.read(
-        {.title = m_needs.texts.lookUp("Help"),
-         .file = file.value_or(""),
-         .anchor = "page" + std::to_string(m_needs.outlets.ecTabView.selected()),
-         .text = file ? "" : missing(kHelp)},
-        m_needs.outlets.window);
+    m_needs.reader.read({.title = m_needs.texts.lookUp("Help"),
+                         .file = file.value_or(""),
+                         .anchor = "page" + std::to_string(m_needs.outlets.ecTabView.selected()),
+                         .text = file ? "" : missing(kHelp)},
+                        m_needs.outlets.window);
 }
 
 void WizardTexts::showLog() {
@@ -103,9 +102,8 @@ void WizardTexts::showLog() {
     m_needs.reader.read({.title = m_needs.texts.lookUp("Install Log"),
                          .file = {},
                          .anchor = {},
-                         .text = lines.empty()
-                                     ? m_needs.texts.lookUp("The install log is empty.")
-                                     : std::move(lines)},
+                         .text = lines.empty() ? m_needs.texts.lookUp("The install log is empty.")
+                                               : std::move(lines)},
                         m_needs.outlets.window);
 }
 
@@ -113,7 +111,7 @@ controls::StyledText WizardTexts::summary() const {
     if (m_needs.session.outcomes.empty())
         return controls::StyledText::plain(m_needs.texts.lookUp("Nothing was changed."));
     controls::StyledText text;
-    for (const Outcome& outcome : m_needs.session.outcomes)
+    for (const ComponentOutcome& outcome : m_needs.session.outcomes)
         text.runs.push_back(
             {formatted(m_needs.texts.lookUp(sentenceFor(outcome)), {outcome.title}) + "\n",
              {},
@@ -122,7 +120,7 @@ controls::StyledText WizardTexts::summary() const {
     return text;
 }
 
-void WizardTexts::controlChanged(controls::Control&) {
+void WizardTexts::pageChanged() {
     const int page = m_needs.outlets.ecTabView.selected();
     for (const auto& [its, indicator] : kProgresses)
         if (page != its)

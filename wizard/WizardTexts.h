@@ -14,7 +14,7 @@
 
 namespace ec {
 
-class WizardTexts : private controls::Control::Observer {
+class WizardTexts {
   public:
     struct Needs {
         const WizardSession& session;
@@ -37,11 +37,21 @@ class WizardTexts : private controls::Control::Observer {
     void showLog();
 
   private:
-    void controlChanged(controls::Control& control) override;
+    class PageWatcher final : public controls::Control::Observer {
+      public:
+        explicit PageWatcher(WizardTexts& texts) : m_texts(texts) {}
+        void controlChanged(controls::Control&) override { m_texts.pageChanged(); }
+
+      private:
+        WizardTexts& m_texts;
+    };
+
+    void pageChanged();
     std::string missing(std::string_view name) const;
     controls::StyledText summary() const;
 
     Needs m_needs;
+    PageWatcher m_pageWatcher{*this};
 };
 
 } // namespace ec

@@ -90,9 +90,10 @@ std::int32_t ecPanelController::decliningAnswer() const {
     return kDefaultAnswer;
 }
 
-std::int32_t ecPanelController::showSheetOnWindow(
-    controls::Window& parent, const std::string& title, const std::string& message,
-    const ButtonText& defText, const ButtonText& altText, const ButtonText& othText) {
+std::int32_t
+ecPanelController::showSheetOnWindow(controls::Window& parent, const std::string& title,
+                                     const std::string& message, const ButtonText& defText,
+                                     const ButtonText& altText, const ButtonText& othText) {
     if (!m_needs.interfaceFiles.load("ecPanel", m_outlets)) {
         m_needs.systemLog.write("Load of ecPanal.NIB failed");
         return kDefaultAnswer;

@@ -41,6 +41,9 @@ class AppDiscovery {
     /// `isWordRunning` asks for Word.
     bool isWordRunning() const { return isAppWithBundleIDRunning(kWordIdentifier); }
 
+    /// `checkWordExists`: Words are not looked for yet, so there is none.
+    bool checkWordExists() const { return false; }
+
   private:
     Needs m_needs;
 };

@@ -4,10 +4,10 @@
 #include <cstdint>
 #include <string_view>
 
-#include "platform/posix/PlistReader.h"
+#include "platform/posix/Plist.h"
 
 extern "C" int LLVMFuzzerTestOneInput(const std::uint8_t* data, std::size_t size) {
-    const auto list = posix::PlistReader::read({reinterpret_cast<const char*>(data), size});
+    const auto list = posix::Plist::read({reinterpret_cast<const char*>(data), size});
     if (list) {
         (void)list->string("CFBundleIdentifier");
         for (const auto& [key, text] : list->strings())

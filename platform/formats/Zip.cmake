@@ -1,4 +1,3 @@
-pkg_check_modules(UTF8PROC REQUIRED IMPORTED_TARGET GLOBAL libutf8proc)
 scrivel_library(scrivel_zip
     ZipDirectory.cpp ZipDirectory.h
     ZipLayout.cpp ZipLayout.h

@@ -4,12 +4,17 @@
 #include <optional>
 #include <string>
 #include <string_view>
+#include <vector>
 
 namespace ports {
 
 class Bundles {
   public:
     virtual ~Bundles() = default;
+
+    /// The main bundle's own folder ("…/X.app"), absolute, without a trailing "/"; for a program
+    /// that lies in no bundle the folder that it lies in.
+    virtual std::string mainBundle() const = 0;
 
     /// Resource folder of the main bundle, absolute, without a trailing "/".
     virtual std::string mainResourceFolder() const = 0;
@@ -22,6 +27,13 @@ class Bundles {
     /// absent or its value is no string. Never throws; a broken file is as good as none.
     virtual std::optional<std::string> infoString(const std::string& path,
                                                   std::string_view key) = 0;
+
+    /// The strings of the array under `arrayKey` in the dictionary under `dictionaryKey` of that
+    /// information dictionary; other elements are passed over. Empty when there is none, for
+    /// whatever reason.
+    virtual std::vector<std::string> infoStrings(const std::string& path,
+                                                 std::string_view dictionaryKey,
+                                                 std::string_view arrayKey) = 0;
 };
 
 } // namespace ports

@@ -9,6 +9,7 @@
 #include "platform/ports/FinderFiles.h"
 #include "platform/ports/FrontEnd.h"
 #include "platform/ports/LocalizedTexts.h"
+#include "platform/ports/PropertyLists.h"
 #include "platform/ports/Queues.h"
 #include "platform/ports/SystemLog.h"
 #include "platform/ports/SystemPlaces.h"
@@ -28,6 +29,7 @@ struct Host {
     Applications& applications;
     FinderFiles& finderFiles;
     Bundles& bundles;
+    PropertyLists& propertyLists;
     LocalizedTexts& texts;
     MainQueue& mainQueue;
     BackgroundQueue& backgroundQueue;

@@ -3,9 +3,17 @@
 #include <filesystem>
 #include <system_error>
 
-#include "platform/posix/PlistReader.h"
+#include "platform/posix/Plist.h"
 
 namespace posix {
+
+namespace {
+
+std::optional<Plist> informationOf(const std::string& bundle) {
+    return Plist::readFile(bundle + "/Contents/Info.plist");
+}
+
+} // namespace
 
 PlistBundles::PlistBundles(const std::string& executable) {
     namespace fs = std::filesystem;
@@ -17,12 +25,22 @@ PlistBundles::PlistBundles(const std::string& executable) {
     const fs::path contents = folder.parent_path();
     const bool inBundle = folder.filename() == "MacOS" && contents.filename() == "Contents";
     m_executable = path.string();
+    m_bundle = (inBundle ? contents.parent_path() : folder).string();
     m_resourceFolder = (inBundle ? contents / "Resources" : folder).string();
 }
 
 std::optional<std::string> PlistBundles::infoString(const std::string& path, std::string_view key) {
-    const auto information = PlistReader::readFile(path + "/Contents/Info.plist");
+    const auto information = informationOf(path);
     return information ? information->string(key) : std::nullopt;
+}
+
+std::vector<std::string> PlistBundles::infoStrings(const std::string& path,
+                                                   std::string_view dictionaryKey,
+                                                   std::string_view arrayKey) {
+    const auto information = informationOf(path);
+    return information
+               ? information->array(dictionaryKey, arrayKey).value_or(std::vector<std::string>())
+               : std::vector<std::string>();
 }
 
 } // namespace posix

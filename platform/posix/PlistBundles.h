@@ -14,12 +14,16 @@ class PlistBundles final : public ports::Bundles {
     /// lie in a bundle has its resources beside it.
     explicit PlistBundles(const std::string& executable);
 
+    std::string mainBundle() const override { return m_bundle; }
     std::string mainResourceFolder() const override { return m_resourceFolder; }
     std::string mainExecutable() const override { return m_executable; }
     std::optional<std::string> infoString(const std::string& path, std::string_view key) override;
+    std::vector<std::string> infoStrings(const std::string& path, std::string_view dictionaryKey,
+                                         std::string_view arrayKey) override;
 
   private:
     std::string m_executable;
+    std::string m_bundle;
     std::string m_resourceFolder;
 };
 

@@ -63,7 +63,8 @@ void bringBack(const std::string& backup, const std::string& path) {
 
 } // namespace
 
-StagedFile::StagedFile(std::string path) : m_path(std::move(path)) {}
+StagedFile::StagedFile(std::string path, mode_t newMode)
+    : m_path(std::move(path)), m_newMode(newMode) {}
 
 StagedFile::~StagedFile() {
     if (!m_temporary.empty())
@@ -78,8 +79,8 @@ int StagedFile::write(std::span<const std::byte> bytes) {
     int file = -1;
     for (int tries = 0; file < 0; ++tries) {
         m_temporary = nameBeside(m_path);
-        file =
-            ::open(m_temporary.c_str(), O_WRONLY | O_CREAT | O_EXCL | O_NOFOLLOW | O_CLOEXEC, 0666);
+        file = ::open(m_temporary.c_str(), O_WRONLY | O_CREAT | O_EXCL | O_NOFOLLOW | O_CLOEXEC,
+                      m_newMode);
         if (file < 0 && errno != EINTR && (errno != EEXIST || tries == kMostTries)) {
             m_temporary.clear();
             return errno;
@@ -110,6 +111,13 @@ int StagedFile::commit() {
     }
     m_temporary.clear();
     m_committed = true;
+    return 0;
+}
+
+int StagedFile::replace() {
+    if (::rename(m_temporary.c_str(), m_path.c_str()) != 0)
+        return errno;
+    m_temporary.clear();
     return 0;
 }
 

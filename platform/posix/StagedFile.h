@@ -7,13 +7,15 @@
 #include <span>
 #include <string>
 
+#include <sys/types.h>
+
 namespace posix {
 
 class StagedFile {
   public:
     /// Nothing happens yet. `path` is where the file will be; a symbolic link there is never
-    /// followed but replaced.
-    explicit StagedFile(std::string path);
+    /// followed but replaced. `newMode` is the mode, less the umask, of a file that replaces none.
+    explicit StagedFile(std::string path, mode_t newMode = 0666);
     /// Undoes everything unless `keep` was called.
     ~StagedFile();
     StagedFile(const StagedFile&) = delete;
@@ -27,11 +29,16 @@ class StagedFile {
     /// EISDIR when there is a folder.
     [[nodiscard]] int commit();
 
+    /// Puts the written file into its place for good, over one that may be there, in one step. For
+    /// a file that is changed alone. 0 or an errno value.
+    [[nodiscard]] int replace();
+
     /// What was put into place stays; the file that it replaced is gone.
     void keep();
 
   private:
     std::string m_path;
+    mode_t m_newMode;
     std::string m_temporary; ///< empty when there is no such file (any more)
     std::string m_backup;    ///< the replaced file; empty when there was none
     bool m_committed = false;

@@ -4,7 +4,7 @@
 #include <filesystem>
 #include <optional>
 
-#include "platform/posix/PlistReader.h"
+#include "platform/posix/Plist.h"
 
 namespace posix {
 
@@ -30,8 +30,8 @@ StringsFileTexts::StringsFileTexts(const Needs& needs) : m_resourceFolder(needs.
         if (base.empty())
             continue;
         for (const std::string& name : {language, base}) {
-            const auto table = PlistReader::readFile(needs.resourceFolder + "/" + name +
-                                                     ".lproj/Localizable.strings");
+            const auto table =
+                Plist::readFile(needs.resourceFolder + "/" + name + ".lproj/Localizable.strings");
             if (table) {
                 m_table = table->strings();
                 m_language = name;

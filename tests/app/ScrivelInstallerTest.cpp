@@ -11,6 +11,7 @@
 #include "cp/private/SystemFolders.h"
 #include "platform/ports/PlatformError.h"
 #include "tests/fakes/FakeHost.h"
+#include "tests/support/Components.h"
 #include "tests/support/TemporaryFolder.h"
 
 namespace {
@@ -30,6 +31,7 @@ struct ScrivelInstallerTest : testing::Test {
     fs::path folder = own.path();
     std::string destination = (folder / "root/Applications/Scrivel 21").string();
     fakes::FakeHost host;
+    tests::Components components;
     std::vector<std::string> statuses; ///< as the status line showed them
 
     void SetUp() override {
@@ -81,6 +83,8 @@ struct ScrivelInstallerTest : testing::Test {
     int install(std::deque<int> answers = {}) {
         host.alertSheets.answers = std::move(answers);
         app::myAppDelegate delegate({.host = real,
+                                     .rules = components.rules,
+                                     .root = components.root,
                                      .finishBackgroundWork = [this] { host.backgroundQueue.run(); },
                                      .willRun =
                                          [this](ScrivelInstaller& made) {
@@ -318,13 +322,16 @@ TEST_F(ScrivelInstallerTest, ClosingTheWindowDuringExtractionStopsTheWorkAtItsNe
 
 TEST_F(ScrivelInstallerTest, AWindowThatCanNotBeLoadedIsNotRun) {
     host.interfaceFiles.missing.insert("ScrivelInstaller");
-    app::myAppDelegate delegate(
-        {.host = real, .finishBackgroundWork = [] {}, .willRun = [](ScrivelInstaller&) {}});
+    app::myAppDelegate delegate({.host = real,
+                                 .rules = components.rules,
+                                 .root = components.root,
+                                 .finishBackgroundWork = [] {},
+                                 .willRun = [](ScrivelInstaller&) {}});
     EXPECT_EQ(delegate.applicationDidFinishLaunching(), std::nullopt);
 }
 
 TEST_F(ScrivelInstallerTest, TheWindowStartsIdle) {
-    ScrivelInstaller made(real);
+    ScrivelInstaller made(real, components.rules, components.root);
     EXPECT_EQ(made.window().title(), "Install Scrivel 21");
     EXPECT_TRUE(made.m_progressIndicator.isHidden());
     EXPECT_FALSE(made.m_progressIndicator.isRunning());
@@ -334,7 +341,7 @@ TEST_F(ScrivelInstallerTest, TheWindowStartsIdle) {
 TEST_F(ScrivelInstallerTest, TitlesAreBlackFromToolkitVersion1671OnAndPlainBelow) {
     const auto colourOfTitle = [&](double version) {
         host.appearance.version = version;
-        ScrivelInstaller made(real);
+        ScrivelInstaller made(real, components.rules, components.root);
         made.beginInstallingApp();
         EXPECT_EQ(made.m_button.title(), "Cancel");
         return made.m_button.attributedTitle().runs.at(0).colour;
@@ -345,7 +352,7 @@ TEST_F(ScrivelInstallerTest, TitlesAreBlackFromToolkitVersion1671OnAndPlainBelow
 }
 
 TEST_F(ScrivelInstallerTest, TheMisspeltRetrieveSheetIsWantedAsItStands) {
-    ScrivelInstaller made(real);
+    ScrivelInstaller made(real, components.rules, components.root);
     int answer = 0;
     made._show_unable_to_retrieve_alertSheet([&](int code) { answer = code; });
     const auto& alert = host.alertSheets.alerts.at(0);

@@ -4,6 +4,7 @@
 #include <gtest/gtest.h>
 
 #include "tests/fakes/FakeHost.h"
+#include "tests/support/Components.h"
 #include "wizard/ecController.h"
 
 namespace {
@@ -15,7 +16,8 @@ using testing::IsEmpty;
 
 struct CommandRunnerTest : testing::Test {
     fakes::FakeHost host;
-    ec::ecController controller{host.host()};
+    tests::Components components;
+    ec::ecController controller{host.host(), components.rules, components.root};
 
     void toolAnswers(int status, std::string output = {}) {
         host.tools.answers.push_back({.status = status, .output = std::move(output)});

@@ -8,6 +8,7 @@
 #include <gtest/gtest.h>
 
 #include "tests/fakes/FakeHost.h"
+#include "tests/support/Components.h"
 #include "tests/support/TemporaryFolder.h"
 #include "wizard/ecController.h"
 
@@ -25,7 +26,8 @@ struct FileOperationsTest : testing::Test {
     std::string file = (root / "file").string();
     std::string none = (root / "none").string();
     fakes::FakeHost host;
-    ec::ecController controller{host.host()};
+    tests::Components components;
+    ec::ecController controller{host.host(), components.rules, components.root};
 
     void SetUp() override {
         fs::create_directories(folder);

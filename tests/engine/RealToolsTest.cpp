@@ -13,6 +13,7 @@
 #include "platform/posix/FinderFileStore.h"
 #include "platform/posix/SpawnedTools.h"
 #include "tests/fakes/FakeHost.h"
+#include "tests/support/Components.h"
 #include "tests/support/TemporaryFolder.h"
 #include "wizard/ecController.h"
 
@@ -31,6 +32,7 @@ struct RealTools : testing::Test {
     posix::SpawnedTools tools{{.ownToolsFolder = SCRIVEL_TOOLS}};
     posix::FileTextStreams streams;
     posix::FinderFileStore finderFiles{{.calls = posix::finderFileCalls()}};
+    tests::Components components;
     std::optional<ec::ecController> controller;
 
     void SetUp() override {
@@ -47,6 +49,7 @@ struct RealTools : testing::Test {
                                        .applications = host.applications,
                                        .finderFiles = finderFiles,
                                        .bundles = host.bundles,
+                                       .propertyLists = host.propertyLists,
                                        .texts = host.texts,
                                        .mainQueue = host.mainQueue,
                                        .backgroundQueue = host.backgroundQueue,
@@ -56,7 +59,8 @@ struct RealTools : testing::Test {
                                        .appearance = host.appearance,
                                        .fileChoosers = host.fileChoosers,
                                        .reader = host.reader,
-                                       .beeper = host.beeper});
+                                       .beeper = host.beeper},
+                           components.rules, components.root);
     }
 
     std::string make(const std::string& name, const std::string& text = "text") {

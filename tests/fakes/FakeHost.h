@@ -16,6 +16,7 @@
 #include "tests/fakes/FakeInterfaceFiles.h"
 #include "tests/fakes/FakeLocalizedTexts.h"
 #include "tests/fakes/FakeModalLoop.h"
+#include "tests/fakes/FakePropertyLists.h"
 #include "tests/fakes/FakeQueues.h"
 #include "tests/fakes/FakeReader.h"
 #include "tests/fakes/FakeSystemLog.h"
@@ -34,6 +35,7 @@ struct FakeHost {
     FakeApplications applications;
     FakeFinderFiles finderFiles;
     FakeBundles bundles;
+    FakePropertyLists propertyLists;
     FakeLocalizedTexts texts;
     FakeMainQueue mainQueue;
     FakeBackgroundQueue backgroundQueue;
@@ -56,6 +58,7 @@ struct FakeHost {
                 .applications = applications,
                 .finderFiles = finderFiles,
                 .bundles = bundles,
+                .propertyLists = propertyLists,
                 .texts = texts,
                 .mainQueue = mainQueue,
                 .backgroundQueue = backgroundQueue,

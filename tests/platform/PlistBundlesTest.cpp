@@ -9,13 +9,13 @@
 #include <sys/stat.h>
 #include <vector>
 
-#include "platform/posix/PlistReader.h"
+#include "platform/posix/Plist.h"
 #include "tests/support/TemporaryFolder.h"
 
 namespace {
 
+using posix::Plist;
 using posix::PlistBundles;
-using posix::PlistReader;
 
 const std::string kHead =
     "<?xml version=\"1.0\" encoding=\"UTF-8\"?>\n<!DOCTYPE plist PUBLIC \"-//Apple//DTD PLIST "
@@ -60,23 +60,23 @@ std::string arrayOf(std::initializer_list<int> references) {
     return object;
 }
 
-TEST(PlistReader, XmlAndBinaryListsGiveTheirStrings) {
+TEST(Plist, XmlAndBinaryListsGiveTheirStrings) {
     const auto fromXml =
-        PlistReader::read(xml("<dict><key>a</key><string>&lt;\xC3\xA9&gt;</string></dict>"));
+        Plist::read(xml("<dict><key>a</key><string>&lt;\xC3\xA9&gt;</string></dict>"));
     ASSERT_TRUE(fromXml);
     EXPECT_EQ(fromXml->string("a"), "<\xC3\xA9>");
     const auto fromBinary =
-        PlistReader::read(binary({std::string("\xD2\x01\x03\x02\x04"), "\x51k", "\x55value",
-                                  "\x51u", std::string("\x61\x00\xE9", 3)}));
+        Plist::read(binary({std::string("\xD2\x01\x03\x02\x04"), "\x51k", "\x55value", "\x51u",
+                            std::string("\x61\x00\xE9", 3)}));
     ASSERT_TRUE(fromBinary);
     EXPECT_EQ(fromBinary->string("k"), "value");
     EXPECT_EQ(fromBinary->string("u"), "\xC3\xA9");
 }
 
-TEST(PlistReader, OnlyStringsAreGivenAsStrings) {
-    const auto list = PlistReader::read(
-        xml("<dict><key>n</key><integer>7</integer><key>d</key><dict/><key>s</key>"
-            "<string></string></dict>"));
+TEST(Plist, OnlyStringsAreGivenAsStrings) {
+    const auto list =
+        Plist::read(xml("<dict><key>n</key><integer>7</integer><key>d</key><dict/><key>s</key>"
+                        "<string></string></dict>"));
     ASSERT_TRUE(list);
     EXPECT_EQ(list->string("n"), std::nullopt);
     EXPECT_EQ(list->string("d"), std::nullopt);
@@ -86,111 +86,111 @@ TEST(PlistReader, OnlyStringsAreGivenAsStrings) {
     EXPECT_EQ(list->strings().size(), 1u);
 }
 
-TEST(PlistReader, AListThatIsNoDictionaryHasNoStrings) {
-    const auto list = PlistReader::read(xml("<array><string>a</string></array>"));
+TEST(Plist, AListThatIsNoDictionaryHasNoStrings) {
+    const auto list = Plist::read(xml("<array><string>a</string></array>"));
     ASSERT_TRUE(list);
     EXPECT_EQ(list->string("a"), std::nullopt);
     EXPECT_TRUE(list->strings().empty());
 }
 
-TEST(PlistReader, OfTwoEqualKeysTheFirstCounts) {
-    const auto list = PlistReader::read(
+TEST(Plist, OfTwoEqualKeysTheFirstCounts) {
+    const auto list = Plist::read(
         binary({std::string("\xD2\x01\x02\x03\x04"), "\x51k", "\x51k", "\x51x", "\x51y"}));
     ASSERT_TRUE(list);
     EXPECT_EQ(list->string("k"), "x");
     EXPECT_EQ(list->strings().at("k"), "x");
 }
 
-TEST(PlistReader, AKeyWithAZeroOrOfAnotherKindIsRefused) {
+TEST(Plist, AKeyWithAZeroOrOfAnotherKindIsRefused) {
     const std::string dictionary("\xD1\x01\x02");
-    EXPECT_TRUE(PlistReader::read(binary({dictionary, "\x52kk", "\x51x"})));
-    EXPECT_FALSE(PlistReader::read(binary({dictionary, std::string("\x52k\0", 3), "\x51x"})));
-    EXPECT_FALSE(PlistReader::read(binary({dictionary, std::string("\x62\0k\0\0", 5), "\x51x"})));
-    EXPECT_FALSE(PlistReader::read(binary({dictionary, "\x10\x07", "\x51x"})));
+    EXPECT_TRUE(Plist::read(binary({dictionary, "\x52kk", "\x51x"})));
+    EXPECT_FALSE(Plist::read(binary({dictionary, std::string("\x52k\0", 3), "\x51x"})));
+    EXPECT_FALSE(Plist::read(binary({dictionary, std::string("\x62\0k\0\0", 5), "\x51x"})));
+    EXPECT_FALSE(Plist::read(binary({dictionary, "\x10\x07", "\x51x"})));
 }
 
-TEST(PlistReader, WhatIsNoPropertyListIsRefused) {
-    EXPECT_FALSE(PlistReader::read(""));
-    EXPECT_FALSE(PlistReader::read("plain text"));
-    EXPECT_FALSE(PlistReader::read("bplist00"));
-    EXPECT_FALSE(PlistReader::read("bplist99" + xml("<dict/>")));
-    EXPECT_FALSE(PlistReader::read(kHead + "<dict><key>a</key>"));
+TEST(Plist, WhatIsNoPropertyListIsRefused) {
+    EXPECT_FALSE(Plist::read(""));
+    EXPECT_FALSE(Plist::read("plain text"));
+    EXPECT_FALSE(Plist::read("bplist00"));
+    EXPECT_FALSE(Plist::read("bplist99" + xml("<dict/>")));
+    EXPECT_FALSE(Plist::read(kHead + "<dict><key>a</key>"));
 }
 
-TEST(PlistReader, AHundredLevelsAreReadAndMoreAreRefused) {
-    EXPECT_TRUE(PlistReader::read(xml(nested(100))));
-    EXPECT_FALSE(PlistReader::read(xml(nested(102))));
-    EXPECT_FALSE(PlistReader::read(xml(nested(300000))));
+TEST(Plist, AHundredLevelsAreReadAndMoreAreRefused) {
+    EXPECT_TRUE(Plist::read(xml(nested(100))));
+    EXPECT_FALSE(Plist::read(xml(nested(102))));
+    EXPECT_FALSE(Plist::read(xml(nested(300000))));
 }
 
-TEST(PlistReader, ClosingTagsThatTheLibraryDoesNotSeeDoNotHideDepth) {
+TEST(Plist, ClosingTagsThatTheLibraryDoesNotSeeDoNotHideDepth) {
     for (const char* hidden :
          {"<!--</array>-->", "<![CDATA[</array>]]>", "<?x </array>?>", "<array x=\"/>\">"}) {
         std::string text;
         for (int i = 0; i < 300000; ++i)
             text += std::string("<array>") + hidden;
-        EXPECT_FALSE(PlistReader::read(xml(text))) << hidden;
+        EXPECT_FALSE(Plist::read(xml(text))) << hidden;
     }
 }
 
-TEST(PlistReader, ADocumentTypeWithDeclarationsIsRefused) {
-    EXPECT_FALSE(PlistReader::read("<!DOCTYPE plist [<!ENTITY a \"b\">]><plist><dict/></plist>"));
+TEST(Plist, ADocumentTypeWithDeclarationsIsRefused) {
+    EXPECT_FALSE(Plist::read("<!DOCTYPE plist [<!ENTITY a \"b\">]><plist><dict/></plist>"));
 }
 
-TEST(PlistReader, ABinaryListDeeperThanAHundredLevelsIsRefused) {
+TEST(Plist, ABinaryListDeeperThanAHundredLevelsIsRefused) {
     std::vector<std::string> levels;
     for (int i = 0; i < 100; ++i)
         levels.push_back(arrayOf({i + 1}));
     levels.push_back("\x51x");
-    EXPECT_TRUE(PlistReader::read(binary(levels)));
+    EXPECT_TRUE(Plist::read(binary(levels)));
     levels.back() = arrayOf({101});
     levels.push_back("\x51x");
-    EXPECT_FALSE(PlistReader::read(binary(levels)));
+    EXPECT_FALSE(Plist::read(binary(levels)));
 }
 
-TEST(PlistReader, DepthThatIsReachedOverASharedObjectCountsInFull) {
+TEST(Plist, DepthThatIsReachedOverASharedObjectCountsInFull) {
     // The top refers to the middle of the chain first and to its beginning later.
     std::vector<std::string> levels{arrayOf({80, 1})};
     for (int i = 1; i < 140; ++i)
         levels.push_back(arrayOf({i + 1}));
     levels.push_back("\x51x");
-    EXPECT_FALSE(PlistReader::read(binary(levels)));
+    EXPECT_FALSE(Plist::read(binary(levels)));
 }
 
-TEST(PlistReader, ABinaryListThatRefersToItselfIsRefused) {
-    EXPECT_FALSE(PlistReader::read(binary({arrayOf({0})})));
-    EXPECT_FALSE(PlistReader::read(binary({arrayOf({1}), arrayOf({2}), arrayOf({1})})));
+TEST(Plist, ABinaryListThatRefersToItselfIsRefused) {
+    EXPECT_FALSE(Plist::read(binary({arrayOf({0})})));
+    EXPECT_FALSE(Plist::read(binary({arrayOf({1}), arrayOf({2}), arrayOf({1})})));
 }
 
-TEST(PlistReader, ABinaryListThatUnfoldsWithoutBoundIsRefused) {
+TEST(Plist, ABinaryListThatUnfoldsWithoutBoundIsRefused) {
     std::vector<std::string> levels;
     for (int i = 0; i < 60; ++i)
         levels.push_back(arrayOf({i + 1, i + 1}));
     levels.push_back("\x51x");
-    EXPECT_FALSE(PlistReader::read(binary(levels)));
+    EXPECT_FALSE(Plist::read(binary(levels)));
 }
 
-TEST(PlistReader, ASharedObjectThatStaysSmallIsFine) {
-    EXPECT_TRUE(PlistReader::read(binary({arrayOf({1, 1, 2}), arrayOf({2, 2}), "\x51x"})));
+TEST(Plist, ASharedObjectThatStaysSmallIsFine) {
+    EXPECT_TRUE(Plist::read(binary({arrayOf({1, 1, 2}), arrayOf({2, 2}), "\x51x"})));
 }
 
-TEST(PlistReader, AnythingButARegularFileIsRefused) {
+TEST(Plist, AnythingButARegularFileIsRefused) {
     const tests::TemporaryFolder folder;
     ASSERT_EQ(::mkfifo(folder.path("pipe").c_str(), 0600), 0);
-    EXPECT_FALSE(PlistReader::readFile(folder.path("pipe")));
-    EXPECT_FALSE(PlistReader::readFile(folder.path()));
-    EXPECT_FALSE(PlistReader::readFile(folder.path("absent")));
+    EXPECT_FALSE(Plist::readFile(folder.path("pipe")));
+    EXPECT_FALSE(Plist::readFile(folder.path()));
+    EXPECT_FALSE(Plist::readFile(folder.path("absent")));
 }
 
-TEST(PlistReader, AFileBeyondSixteenMegabytesIsRefused) {
+TEST(Plist, AFileBeyondSixteenMegabytesIsRefused) {
     const tests::TemporaryFolder folder;
     const std::string file = folder.write("big", xml("<dict/>"));
-    EXPECT_TRUE(PlistReader::readFile(file));
+    EXPECT_TRUE(Plist::readFile(file));
     std::filesystem::resize_file(file, (16 << 20) + 1);
-    EXPECT_FALSE(PlistReader::readFile(file));
+    EXPECT_FALSE(Plist::readFile(file));
 }
 
-TEST(PlistReader, CharacterReferencesAreRefusedWhereTheyWouldCostSecondsAndReadElsewhere) {
+TEST(Plist, CharacterReferencesAreRefusedWhereTheyWouldCostSecondsAndReadElsewhere) {
     const std::string reference = "&amp;";
     std::string inOneText;
     std::string inManyTexts;
@@ -198,9 +198,9 @@ TEST(PlistReader, CharacterReferencesAreRefusedWhereTheyWouldCostSecondsAndReadE
         inOneText += reference;
         inManyTexts += "<string>&amp;</string>";
     }
-    EXPECT_FALSE(PlistReader::read(xml("<string>" + inOneText + "</string>")));
-    EXPECT_TRUE(PlistReader::read(xml("<array>" + inManyTexts + "</array>")));
-    const auto few = PlistReader::read(
+    EXPECT_FALSE(Plist::read(xml("<string>" + inOneText + "</string>")));
+    EXPECT_TRUE(Plist::read(xml("<array>" + inManyTexts + "</array>")));
+    const auto few = Plist::read(
         xml("<dict><key>a</key><string>" + inOneText.substr(0, 50'000) + "</string></dict>"));
     ASSERT_TRUE(few);
     EXPECT_EQ(few->string("a"), std::string(10'000, '&'));
@@ -226,6 +226,24 @@ TEST(PlistBundles, AnExecutableOutsideABundleHasItsResourcesBesideIt) {
     const tests::TemporaryFolder folder;
     const std::string executable = folder.writeProgram("bin/X", "");
     EXPECT_EQ(PlistBundles(executable).mainResourceFolder(), folder.path("bin"));
+}
+
+TEST(PlistBundles, AnExecutableOutsideABundleHasItsFolderForABundle) {
+    const tests::TemporaryFolder folder;
+    const std::string executable = folder.writeProgram("bin/X", "");
+    EXPECT_EQ(PlistBundles(executable).mainBundle(), folder.path("bin"));
+}
+
+TEST(PlistBundles, OfAnArrayOnlyTheStringsAreGivenAndOtherTypesCountAsNone) {
+    const tests::TemporaryFolder folder;
+    folder.write("X.app/Contents/Info.plist",
+                 xml("<dict><key>D</key><dict><key>A</key><array><integer>1</integer><string>s"
+                     "</string></array><key>S</key><string>s</string></dict></dict>"));
+    PlistBundles bundles("/bin/true");
+    using Texts = std::vector<std::string>;
+    EXPECT_EQ(bundles.infoStrings(folder.path("X.app"), "D", "A"), Texts({"s"}));
+    EXPECT_EQ(bundles.infoStrings(folder.path("X.app"), "D", "S"), Texts());
+    EXPECT_EQ(bundles.infoStrings(folder.path("X.app"), "A", "A"), Texts());
 }
 
 TEST(PlistBundles, ABrokenInformationDictionaryIsAsGoodAsNone) {

@@ -94,6 +94,14 @@ struct RealBundles {
         folder.write(name + "/Contents/Info.plist",
                      dictionary("<key>" + key + "</key><string>" + value + "</string>"));
     }
+    void giveArray(const std::string& name, const std::vector<std::string>& values) {
+        std::string body;
+        for (const std::string& value : values)
+            body += "<string>" + value + "</string>";
+        folder.write(
+            name + "/Contents/Info.plist",
+            dictionary("<key>Data</key><dict><key>Parts</key><array>" + body + "</array></dict>"));
+    }
     std::string path(const std::string& name) { return folder.path(name); }
     tests::TemporaryFolder folder;
     posix::PlistBundles bundles{folder.writeProgram("I.app/Contents/MacOS/I", "")};
@@ -102,6 +110,9 @@ struct RealBundles {
 struct PretendedBundles {
     void give(const std::string& name, const std::string& key, const std::string& value) {
         bundles.strings[{path(name), key}] = value;
+    }
+    void giveArray(const std::string& name, const std::vector<std::string>& values) {
+        bundles.arrays[{path(name), "Data", "Parts"}] = values;
     }
     std::string path(const std::string& name) { return "/" + name; }
     fakes::FakeBundles bundles;
@@ -132,10 +143,29 @@ TYPED_TEST(BundlesContract, AbsentKeysAndAbsentBundlesGiveNone) {
 
 TYPED_TEST(BundlesContract, TheMainBundlesPathsAreAbsoluteAndHaveNoSlashAtTheirEnd) {
     for (const std::string& path :
-         {this->bundles.mainExecutable(), this->bundles.mainResourceFolder()}) {
+         {this->bundles.mainExecutable(), this->bundles.mainResourceFolder(),
+          this->bundles.mainBundle()}) {
         EXPECT_TRUE(path.starts_with('/'));
         EXPECT_FALSE(path.ends_with('/'));
     }
+}
+
+TYPED_TEST(BundlesContract, TheMainBundleHoldsItsExecutableAndItsResources) {
+    const std::string bundle = this->bundles.mainBundle();
+    EXPECT_TRUE(bundle.ends_with(".app"));
+    EXPECT_TRUE(this->bundles.mainExecutable().starts_with(bundle + "/"));
+    EXPECT_TRUE(this->bundles.mainResourceFolder().starts_with(bundle + "/"));
+}
+
+TYPED_TEST(BundlesContract, TheStringsOfAnArrayAreGivenInTheirOrder) {
+    using Texts = std::vector<std::string>;
+    this->host.giveArray("X.app", {"b", "", "a"});
+    const std::string path = this->host.path("X.app");
+    EXPECT_EQ(this->bundles.infoStrings(path, "Data", "Parts"), Texts({"b", "", "a"}));
+    EXPECT_EQ(this->bundles.infoStrings(path, "Data", "parts"), Texts());
+    EXPECT_EQ(this->bundles.infoStrings(path, "Other", "Parts"), Texts());
+    EXPECT_EQ(this->bundles.infoStrings(path, "", ""), Texts());
+    EXPECT_EQ(this->bundles.infoStrings(this->host.path("Y.app"), "Data", "Parts"), Texts());
 }
 
 // --- Localized texts

@@ -7,6 +7,7 @@
 
 #include "platform/posix/FileTextStreams.h"
 #include "tests/fakes/FakeHost.h"
+#include "tests/support/Components.h"
 #include "tests/support/TemporaryFolder.h"
 #include "wizard/ecController.h"
 
@@ -16,7 +17,8 @@ using testing::ElementsAre;
 
 struct InstallLogTest : testing::Test {
     fakes::FakeHost host;
-    ec::ecController controller{host.host()};
+    tests::Components components;
+    ec::ecController controller{host.host(), components.rules, components.root};
     ec::InstallLog& log = controller;
 
     void dump(std::vector<std::string> pieces) {

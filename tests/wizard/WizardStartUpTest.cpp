@@ -5,6 +5,7 @@
 #include <gtest/gtest.h>
 
 #include "tests/fakes/FakeHost.h"
+#include "tests/support/Components.h"
 #include "tests/support/TemporaryFolder.h"
 
 namespace {
@@ -14,6 +15,7 @@ namespace fs = std::filesystem;
 struct WizardStartUpTest : testing::Test {
     tests::TemporaryFolder folder;
     fakes::FakeHost host;
+    tests::Components components;
     void SetUp() override {
         fs::create_directories(folder.path("resources"));
         host.bundles.resourceFolder = folder.path("resources");
@@ -22,7 +24,7 @@ struct WizardStartUpTest : testing::Test {
 };
 
 TEST_F(WizardStartUpTest, ThePlainStartFillsTheFieldsFromTheBundle) {
-    const ec::ecController controller(host.host());
+    const ec::ecController controller(host.host(), components.rules, components.root);
     EXPECT_EQ(controller.m_custResourceDir, host.bundles.resourceFolder);
     EXPECT_EQ(controller.m_appResourceDir, host.bundles.resourceFolder);
     EXPECT_EQ(controller.m_execPath, host.bundles.executable);
@@ -30,7 +32,7 @@ TEST_F(WizardStartUpTest, ThePlainStartFillsTheFieldsFromTheBundle) {
 }
 
 TEST_F(WizardStartUpTest, ThePlainStartClearsEveryFlag) {
-    const ec::ecController controller(host.host());
+    const ec::ecController controller(host.host(), components.rules, components.root);
     EXPECT_FALSE(controller.m_bPMRK_path_added);
     EXPECT_FALSE(controller.m_bUninstall);
     EXPECT_FALSE(controller.m_bCustomizeMSWord);
@@ -40,37 +42,37 @@ TEST_F(WizardStartUpTest, ThePlainStartClearsEveryFlag) {
 }
 
 TEST_F(WizardStartUpTest, TheHomeDirectoryIsTheUsers) {
-    EXPECT_EQ(ec::ecController(host.host()).readHomeDirectory(), "/Users/someone");
+    EXPECT_EQ(ec::ecController(host.host(), components.rules, components.root).readHomeDirectory(), "/Users/someone");
 }
 
 TEST_F(WizardStartUpTest, AnExecutableOutsideTheVolumeIsOnNoDiskImageAndTheDiskIsNotTouched) {
     host.bundles.executable = "/Applications/Volumes/Scrivel/Installer";
     fs::permissions(folder.path("resources"), fs::perms::none);
-    EXPECT_FALSE(ec::ecController(host.host()).isOnDiskImage());
+    EXPECT_FALSE(ec::ecController(host.host(), components.rules, components.root).isOnDiskImage());
     fs::permissions(folder.path("resources"), fs::perms::owner_all);
     EXPECT_TRUE(fs::is_empty(folder.path("resources")));
 }
 
 TEST_F(WizardStartUpTest, AWritableVolumeIsNoDiskImageAndKeepsNoTrace) {
-    EXPECT_FALSE(ec::ecController(host.host()).isOnDiskImage());
+    EXPECT_FALSE(ec::ecController(host.host(), components.rules, components.root).isOnDiskImage());
     EXPECT_TRUE(fs::is_empty(folder.path("resources")));
 }
 
 TEST_F(WizardStartUpTest, AVolumeThatTakesNoFileIsTheDiskImage) {
     host.bundles.resourceFolder = folder.path("missing");
-    EXPECT_TRUE(ec::ecController(host.host()).isOnDiskImage());
+    EXPECT_TRUE(ec::ecController(host.host(), components.rules, components.root).isOnDiskImage());
 }
 
 TEST_F(WizardStartUpTest, TheVolumeIsLookedForUnderTheRoot) {
     host.places.root = "/elsewhere";
     host.bundles.resourceFolder = folder.path("missing");
-    EXPECT_FALSE(ec::ecController(host.host()).isOnDiskImage());
+    EXPECT_FALSE(ec::ecController(host.host(), components.rules, components.root).isOnDiskImage());
     host.bundles.executable = "/elsewhere/Volumes/Scrivel/Installer";
-    EXPECT_TRUE(ec::ecController(host.host()).isOnDiskImage());
+    EXPECT_TRUE(ec::ecController(host.host(), components.rules, components.root).isOnDiskImage());
 }
 
 TEST_F(WizardStartUpTest, WordRunsWhenItsIdentifierDoes) {
-    const ec::ecController controller(host.host());
+    const ec::ecController controller(host.host(), components.rules, components.root);
     EXPECT_FALSE(controller.isWordRunning());
     host.applications.running.insert("com.microsoft.Word");
     EXPECT_TRUE(controller.isWordRunning());
@@ -81,7 +83,7 @@ TEST_F(WizardStartUpTest, WordRunsWhenItsIdentifierDoes) {
 
 TEST_F(WizardStartUpTest, ABundlesTextIsAnsweredOrNone) {
     host.bundles.strings[{"/Applications/A.app", "CFBundleShortVersionString"}] = "16.89.1";
-    ec::ecController controller(host.host());
+    ec::ecController controller(host.host(), components.rules, components.root);
     EXPECT_EQ(
         controller.getBundleStringForPath("/Applications/A.app", "CFBundleShortVersionString"),
         "16.89.1");
