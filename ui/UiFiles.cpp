@@ -56,6 +56,19 @@ QString nameOf(const controls::NamedOutlet& outlet) {
     return QString::fromUtf8(outlet.name.data(), static_cast<qsizetype>(outlet.name.size()));
 }
 
+/// Labels stand where their reader begins to read, also those whose words are in a script of the
+/// other direction: a product's name, a path. The toolkit would go by the words.
+void alignLabels(const QDialog& dialog) {
+    if (dialog.layoutDirection() != Qt::RightToLeft)
+        return;
+    for (QLabel* label : dialog.findChildren<QLabel*>()) {
+        const Qt::Alignment across = label->alignment() & Qt::AlignHorizontal_Mask;
+        if (across == Qt::AlignLeft)
+            label->setAlignment((label->alignment() & ~across) | Qt::AlignRight |
+                                Qt::AlignAbsolute);
+    }
+}
+
 /// Is the outlet's widget there, and of the kind that the model needs?
 struct HasWidget {
     const QDialog& dialog;
@@ -121,6 +134,7 @@ bool UiFiles::load(std::string_view name, controls::Interface& outlets) {
         if (!std::visit(HasWidget{*dialog, nameOf(outlet)}, outlet.control))
             return false;
 
+    alignLabels(*dialog);
     for (PictureView* view : dialog->findChildren<PictureView*>())
         view->showFrom(m_needs.pictures);
     std::erase_if(m_loaded, [&](const auto& loaded) {

@@ -6,7 +6,10 @@
 #include <vector>
 
 #include <QApplication>
+#include <QDialog>
 #include <QDialogButtonBox>
+#include <QImage>
+#include <QLabel>
 #include <QLibraryInfo>
 #include <QLocale>
 #include <QPushButton>
@@ -147,6 +150,30 @@ TEST(SpokenLanguage, ReadsArabicFromTheRightAndLeavesNothingBehind) {
     EXPECT_EQ(QLocale(), locale);
     const ui::SpokenLanguage japanese("ja");
     EXPECT_EQ(QApplication::layoutDirection(), Qt::LeftToRight);
+}
+
+TEST(SpokenLanguage, MirrorsAWindowWithItsLatinNamesForReadersFromTheRight) {
+    const ui::SpokenLanguage arabic("ar");
+    stage::InstallerModels models;
+    ASSERT_TRUE(stage::front().frontEnd.interfaceFiles().load("ScrivelInstaller", models.outlets));
+    models.window.orderFront();
+    const auto* window = stage::dialogOnScreen();
+    const auto* name = window->findChild<QLabel*>("productName");
+    const auto* picture = window->findChild<QWidget*>("productPicture");
+    EXPECT_GT(picture->x(), name->geometry().right());
+    QImage shown = const_cast<QLabel*>(name)->grab().toImage();
+    const auto isEmptyIn = [&](int column) {
+        for (int row = 0; row < shown.height(); ++row)
+            if (shown.pixel(column, row) != shown.pixel(0, 0))
+                return false;
+        return true;
+    };
+    int right = shown.width() - 1, left = 0;
+    while (right > 0 && isEmptyIn(right))
+        --right;
+    while (left < right && isEmptyIn(left))
+        ++left;
+    EXPECT_GT(left, shown.width() - right) << "the name stands on the right";
 }
 
 TEST(SpokenLanguage, GivesTheToolkitItsOwnTexts) {
