@@ -86,8 +86,8 @@ Run::Run(const CommandLine& options, AnswersFile answers, int& argc, char** argv
              .applications = *m_adapters.applications,
              .finderFiles = *m_adapters.finderFiles,
              .bundles = m_adapters.bundles,
-             .propertyLists = m_adapters.propertyLists,
-             .texts = m_adapters.texts,
+          .propertyLists = m_adapters.propertyLists,
+          .texts = *m_adapters.texts,
              .mainQueue = m_adapters.mainQueue,
              .backgroundQueue = m_adapters.backgroundQueue,
              .interfaceFiles = m_frontEnd.interfaceFiles,
@@ -135,7 +135,7 @@ std::unique_ptr<WindowFrontEnd> Run::window(int& argc, char** argv) {
     return makeWindowFrontEnd({.argc = argc,
                                .argv = argv,
                                .resourceFolder = m_adapters.bundles.mainResourceFolder(),
-                               .texts = m_adapters.texts,
+                               .texts = *m_adapters.texts,
                                .mainQueueDescriptor = m_adapters.mainQueue.descriptor(),
                                .runPending = [this] { m_adapters.mainQueue.runPending(); }});
 }
