@@ -41,7 +41,12 @@ class ecController final : public WizardOutlets,
                          .streams = host.streams}),
           FileOperations({.log = *this, .runner = *this, .finderFiles = host.finderFiles}),
           Breadcrumbs({.log = *this, .session = *this, .lists = host.propertyLists}),
-          AppDiscovery({.applications = host.applications, .bundles = host.bundles}),
+          AppDiscovery({.log = *this,
+                        .session = *this,
+                        .breadcrumbs = *this,
+                        .applications = host.applications,
+                        .bundles = host.bundles,
+                        .finderFiles = host.finderFiles}),
           WizardStartUp({.session = *this}) {}
 };
 
