@@ -27,6 +27,9 @@ class NoLaunches final : public ports::Applications {
   public:
     explicit NoLaunches(std::unique_ptr<ports::Applications> inner) : m_inner(std::move(inner)) {}
     bool isRunning(std::string_view identifier) override { return m_inner->isRunning(identifier); }
+    std::vector<std::string> pathsFor(std::string_view identifier) override {
+        return m_inner->pathsFor(identifier);
+    }
     bool launch(const std::string&) override { return true; }
 
   private:

@@ -106,6 +106,26 @@ TEST(Plist, AKeyWithAZeroOrOfAnotherKindIsRefused) {
     EXPECT_FALSE(Plist::read(binary({dictionary, "\x10\x07", "\x51x"})));
 }
 
+TEST(Plist, AZeroInAnXmlListIsRefused) {
+    using namespace std::string_literals;
+    EXPECT_FALSE(Plist::read(xml("<dict><key>a</key><string>b\0c</string></dict>"s)));
+    EXPECT_FALSE(Plist::read(xml("<dict><key>a\0b</key><string>c</string></dict>"s)));
+}
+
+TEST(Plist, AddedStringsOfABinaryListEndAtAZeroAndAreWrittenSo) {
+    const auto list = Plist::read(binary({"\xD1\x01\x02", "\x51k", "\xA1\x03",
+                                          std::string("\x53"
+                                                      "a\0b",
+                                                      4)}));
+    ASSERT_TRUE(list);
+    Plist copy = Plist::emptyDictionary();
+    copy.addEntriesFrom(*list);
+    EXPECT_EQ(copy.array("k"), std::vector<std::string>{"a"});
+    const auto written = copy.xml();
+    ASSERT_TRUE(written);
+    EXPECT_NE(written->find("<string>a</string>"), std::string::npos) << *written;
+}
+
 TEST(Plist, WhatIsNoPropertyListIsRefused) {
     EXPECT_FALSE(Plist::read(""));
     EXPECT_FALSE(Plist::read("plain text"));
