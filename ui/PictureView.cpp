@@ -12,8 +12,16 @@ void PictureView::showFrom(Pictures& pictures) {
         hide();
 }
 
+void PictureView::show(const QString& file, Pictures& pictures) {
+    m_pictures = &pictures;
+    if (m_file == file)
+        return;
+    m_file = file;
+    update();
+}
+
 void PictureView::paintEvent(QPaintEvent*) {
-    if (m_pictures)
+    if (m_pictures && !m_file.isEmpty())
         QPainter(this).drawPixmap(0, 0, m_pictures->square(m_file, width(), devicePixelRatioF()));
 }
 

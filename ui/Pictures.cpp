@@ -1,5 +1,7 @@
 #include "ui/Pictures.h"
 
+#include <QDir>
+
 #include "ui/IcnsFile.h"
 
 namespace ui {
@@ -8,7 +10,7 @@ QPixmap Pictures::square(const QString& file, int points, qreal ratio) {
     const int pixels = qRound(points * ratio);
     QPixmap& pixmap = m_byPixels[{file, pixels}];
     if (pixmap.isNull()) {
-        auto image = icns::read(m_resourceFolder + '/' + file, pixels);
+        auto image = icns::read(QDir(m_resourceFolder).absoluteFilePath(file), pixels);
         if (!image)
             return {};
         if (image->width() != pixels)

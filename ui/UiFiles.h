@@ -26,8 +26,20 @@ class UiFiles final : public ports::InterfaceFiles {
     ~UiFiles() override;
 
     /// Reads `<resources>/<name>.ui`. Its top widget is a dialog; an outlet is the widget of that
-    /// name: a push button, a label or a ui::ProgressBar, whose caption is the label named
-    /// "<outlet>Caption". A window that is loaded again shows the new widgets.
+    /// name and of the class that its kind needs:
+    ///
+    ///   Button       QPushButton
+    ///   TextField    QLabel
+    ///   Progress     ui::ProgressBar; its caption is the label named "<outlet>Caption", if any
+    ///   TabView      QStackedWidget with as many pages, page 0 first
+    ///   RadioMatrix  QWidget whose direct children hold as many QRadioButtons, row 0 first
+    ///   ImageView    ui::PictureView
+    ///   DocumentView ui::DocumentBrowser
+    ///   OutlineView  ui::ComponentTree with the outline's columns (ui/models/Columns.h)
+    ///   TableView    QTableView with the table's columns
+    ///   MenuItem     QAction of a menu in the dialog's QMenuBar, which stands at the top
+    ///
+    /// A window that is loaded again shows the new widgets.
     bool load(std::string_view name, controls::Interface& outlets) override;
 
     /// The dialog that shows `window`; null when none was loaded.

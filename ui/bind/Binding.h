@@ -6,8 +6,14 @@
 
 namespace ui {
 
+/// Any kind of binding, for those who only keep it.
+class AnyBinding {
+  public:
+    virtual ~AnyBinding() = default;
+};
+
 template <class Model>
-class Binding : private controls::Control::Observer {
+class Binding : public AnyBinding, private controls::Control::Observer {
   public:
     Binding(const Binding&) = delete;
     Binding& operator=(const Binding&) = delete;
@@ -17,7 +23,7 @@ class Binding : private controls::Control::Observer {
 
   protected:
     explicit Binding(Model& model) : m_model(&model) { model.addObserver(*this); }
-    ~Binding() {
+    ~Binding() override {
         if (m_model)
             m_model->removeObserver(*this);
     }

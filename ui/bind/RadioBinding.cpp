@@ -1,0 +1,38 @@
+#include "ui/bind/RadioBinding.h"
+
+#include "ui/bind/FirstState.h"
+
+namespace ui {
+
+RadioBinding::RadioBinding(controls::RadioMatrix& matrix, QWidget& widget)
+    : Binding(matrix), m_widget(widget) {
+    takeFirstState(matrix, widget);
+    const auto cells = cellsOf(widget);
+    for (int row = 0; row < cells.size(); ++row)
+        // a click, and an arrow key that comes from the next cell
+        connect(cells[row], &QRadioButton::clicked, this, [this, row] {
+            if (!model())
+                return;
+            model()->press(row);
+            if (model())
+                mirror(*model());
+        });
+    mirror(matrix);
+}
+
+void RadioBinding::mirror(const controls::RadioMatrix& matrix) {
+    const auto cells = cellsOf(m_widget);
+    for (int row = 0; row < cells.size(); ++row) {
+        QRadioButton& cell = *cells[row];
+        if (cell.isChecked() == matrix.isOn(row))
+            continue;
+        // a button that excludes the others can't be switched off by itself
+        cell.setAutoExclusive(false);
+        cell.setChecked(matrix.isOn(row));
+        cell.setAutoExclusive(true);
+    }
+    m_widget.setEnabled(matrix.isEnabled());
+    m_widget.setVisible(!matrix.isHidden());
+}
+
+} // namespace ui

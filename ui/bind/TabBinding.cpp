@@ -1,0 +1,53 @@
+#include "ui/bind/TabBinding.h"
+
+#include <QPushButton>
+
+#include "ui/bind/FirstState.h"
+
+namespace ui {
+
+namespace {
+
+/// The first widget on the page that the Tab key reaches; null when there is none.
+QWidget* firstWithKeyboard(const QWidget& page) {
+    const QWidget* at = &page;
+    while ((at = at->nextInFocusChain()) != &page)
+        if (page.isAncestorOf(at) && (at->focusPolicy() & Qt::TabFocus) && at->isEnabled() &&
+            at->isVisibleTo(&page) && !at->focusProxy())
+            return const_cast<QWidget*>(at);
+    return nullptr;
+}
+
+QWidget* defaultButton(const QWidget& window) {
+    for (QPushButton* button : window.findChildren<QPushButton*>())
+        if (button->isDefault() && button->isEnabled() && button->isVisibleTo(&window))
+            return button;
+    return nullptr;
+}
+
+} // namespace
+
+TabBinding::TabBinding(controls::TabView& tabs, QStackedWidget& widget)
+    : Binding(tabs), m_widget(widget) {
+    takeFirstState(tabs, widget);
+    mirror(tabs);
+}
+
+void TabBinding::mirror(const controls::TabView& tabs) {
+    m_widget.setEnabled(tabs.isEnabled());
+    m_widget.setVisible(!tabs.isHidden());
+    if (m_widget.currentIndex() == tabs.selected())
+        return;
+    const QWidget* focus = m_widget.window()->focusWidget();
+    const bool goes = focus && m_widget.currentWidget()->isAncestorOf(focus);
+    m_widget.setCurrentIndex(tabs.selected());
+    if (!goes)
+        return;
+    QWidget* next = firstWithKeyboard(*m_widget.currentWidget());
+    if (!next)
+        next = defaultButton(*m_widget.window());
+    if (next)
+        next->setFocus(Qt::OtherFocusReason);
+}
+
+} // namespace ui

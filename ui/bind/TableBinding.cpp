@@ -1,0 +1,52 @@
+#include "ui/bind/TableBinding.h"
+
+#include <QHeaderView>
+#include <QItemSelectionModel>
+
+#include "ui/bind/FirstState.h"
+
+namespace ui {
+
+TableBinding::TableBinding(controls::TableView& table, QTableView& widget,
+                           const ports::LocalizedTexts& texts)
+    : Binding(table), m_widget(widget), m_rows(table, Columns::of(widget, &texts)) {
+    takeFirstState(table, widget);
+    widget.setModel(&m_rows);
+    widget.setSelectionBehavior(QTableView::SelectRows);
+    widget.setSelectionMode(QTableView::SingleSelection);
+    widget.setEditTriggers(QTableView::NoEditTriggers);
+    widget.setTabKeyNavigation(false);
+    widget.setShowGrid(false);
+    widget.setTextElideMode(Qt::ElideMiddle);
+    widget.setWordWrap(false);
+    widget.setCornerButtonEnabled(false);
+    widget.verticalHeader()->hide();
+    widget.verticalHeader()->setDefaultSectionSize(widget.verticalHeader()->minimumSectionSize() +
+                                                   4);
+    widget.horizontalHeader()->setHighlightSections(false);
+    widget.horizontalHeader()->setSectionResizeMode(QHeaderView::Stretch);
+    connect(widget.selectionModel(), &QItemSelectionModel::selectionChanged, this, [this] {
+        if (model() && !m_mirrors)
+            model()->selectRow(selectedRow());
+    });
+    mirror(table);
+}
+
+int TableBinding::selectedRow() const {
+    const auto rows = m_widget.selectionModel()->selectedRows();
+    return rows.isEmpty() ? -1 : rows.first().row();
+}
+
+void TableBinding::mirror(const controls::TableView& table) {
+    m_mirrors = true;
+    m_rows.reload();
+    m_widget.setEnabled(table.isEnabled());
+    m_widget.setVisible(!table.isHidden());
+    if (table.selectedRow() < 0)
+        m_widget.clearSelection();
+    else if (table.selectedRow() != selectedRow())
+        m_widget.selectRow(table.selectedRow());
+    m_mirrors = false;
+}
+
+} // namespace ui
