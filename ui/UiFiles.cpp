@@ -52,7 +52,19 @@ class UiFiles::Loaded {
 
 UiFiles::UiFiles(Needs needs) : m_needs(std::move(needs)) {}
 
-UiFiles::~UiFiles() = default;
+UiFiles::~UiFiles() {
+    release([](const Loaded&) { return true; });
+}
+
+template <class Condition>
+void UiFiles::release(Condition goes) {
+    // a sheet is a child of the dialog that it hangs on, but belongs to its own file
+    for (const auto& sheet : m_loaded)
+        for (const auto& loaded : m_loaded)
+            if (goes(*loaded) && sheet->dialog()->parentWidget() == loaded->dialog())
+                sheet->dialog()->setParent(nullptr, Qt::Dialog);
+    std::erase_if(m_loaded, [&](const auto& loaded) { return goes(*loaded); });
+}
 
 bool UiFiles::load(std::string_view name, controls::Interface& outlets) {
     const std::string path = m_needs.resourceFolder + '/' + std::string(name) + ".ui";
@@ -66,8 +78,8 @@ bool UiFiles::load(std::string_view name, controls::Interface& outlets) {
     for (PictureView* view : dialog->findChildren<PictureView*>())
         if (!outlets.find(view->objectName().toStdString()))
             view->showFrom(m_needs.pictures);
-    std::erase_if(m_loaded, [&](const auto& loaded) {
-        return !loaded->window() || loaded->window() == &outlets.window;
+    release([&](const Loaded& loaded) {
+        return !loaded.window() || loaded.window() == &outlets.window;
     });
     m_loaded.push_back(std::make_unique<Loaded>(
         std::move(dialog), outlets,
