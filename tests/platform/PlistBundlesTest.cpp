@@ -99,6 +99,9 @@ TEST(Plist, OfTwoEqualKeysTheFirstCounts) {
     ASSERT_TRUE(list);
     EXPECT_EQ(list->string("k"), "x");
     EXPECT_EQ(list->strings().at("k"), "x");
+    Plist copy = Plist::emptyDictionary();
+    copy.addEntriesFrom(*list);
+    EXPECT_EQ(copy.string("k"), "x");
 }
 
 TEST(Plist, AKeyWithAZeroOrOfAnotherKindIsRefused) {
