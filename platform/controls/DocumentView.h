@@ -12,24 +12,21 @@ namespace controls {
 class DocumentView final : public Control {
   public:
     /// The file whose text is in sight, an HTML file; empty for a text of the core's own.
-    const std::string& file() const { return m_file; }
+    const std::string& file() const { return m_content.file; }
     /// The core's own text; empty when a file is shown.
-    const StyledText& text() const { return m_text; }
+    const StyledText& text() const { return m_content.text; }
 
-    void setFile(std::string path) { show(std::move(path), {}); }
-    void setText(StyledText text) { show({}, std::move(text)); }
+    void setFile(std::string path) { change(m_content, Content{std::move(path), StyledText()}); }
+    void setText(StyledText text) { change(m_content, Content{std::string(), std::move(text)}); }
 
   private:
-    void show(std::string file, StyledText text) {
-        if (file == m_file && text == m_text)
-            return;
-        m_file = std::move(file);
-        m_text = std::move(text);
-        changed();
-    }
+    struct Content {
+        std::string file;
+        StyledText text;
+        bool operator==(const Content&) const = default;
+    };
 
-    std::string m_file;
-    StyledText m_text;
+    Content m_content;
 };
 
 } // namespace controls

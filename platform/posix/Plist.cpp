@@ -4,6 +4,7 @@
 #include <cstdlib>
 #include <cstring>
 #include <plist/plist.h>
+#include <set>
 
 #include "platform/posix/PlistGuard.h"
 #include "platform/posix/RegularFile.h"
@@ -159,8 +160,11 @@ void Plist::setArray(std::string_view key, const std::vector<std::string>& value
 }
 
 void Plist::addEntriesFrom(const Plist& other) {
+    std::set<std::string> seen;
     if (isDictionary())
-        forEachEntry(other.m_list.get(), [this](const char* key, plist_t value) {
+        forEachEntry(other.m_list.get(), [&](const char* key, plist_t value) {
+            if (!seen.insert(key).second) // of two equal keys the first counts
+                return;
             plist_t copy = plist_copy(value);
             cutAtZeros(copy);
             plist_dict_set_item(m_list.get(), key, copy);

@@ -172,5 +172,9 @@
 <message><source>%@, selected</source><translation>%@, selected</translation></message>
 <message><source>%@, partly selected</source><translation>%@, partly selected</translation></message>
 <message><source>The text at %@ can’t be read. Download the installer again and start it from there.</source><translation>The text at %@ can’t be read. Download the installer again and start it from there.</translation></message>
+<message><source>Look in:</source><translation>Look in:</translation></message>
+<message><source>Folder:</source><translation>Folder:</translation></message>
+<message><source>Application:</source><translation>Application:</translation></message>
+<message><source>Choose</source><translation>Choose</translation></message>
 </context>
 </TS>

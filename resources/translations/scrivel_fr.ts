@@ -172,5 +172,9 @@
 <message><source>%@, selected</source><translation type="unfinished"></translation></message>
 <message><source>%@, partly selected</source><translation type="unfinished"></translation></message>
 <message><source>The text at %@ can’t be read. Download the installer again and start it from there.</source><translation type="unfinished"></translation></message>
+<message><source>Look in:</source><translation type="unfinished"></translation></message>
+<message><source>Folder:</source><translation type="unfinished"></translation></message>
+<message><source>Application:</source><translation type="unfinished"></translation></message>
+<message><source>Choose</source><translation type="unfinished"></translation></message>
 </context>
 </TS>

@@ -96,6 +96,9 @@ TEST(Plist, OfTwoEqualKeysTheFirstCounts) {
         binary({std::string("\xD2\x01\x02\x03\x04"), "\x51k", "\x51k", "\x51x", "\x51y"}));
     ASSERT_TRUE(list);
     EXPECT_EQ(list->string("k"), "x");
+    Plist copy = Plist::emptyDictionary();
+    copy.addEntriesFrom(*list);
+    EXPECT_EQ(copy.string("k"), "x");
 }
 
 TEST(Plist, AKeyWithAZeroOrOfAnotherKindIsRefused) {
