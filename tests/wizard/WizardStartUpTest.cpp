@@ -42,7 +42,8 @@ TEST_F(WizardStartUpTest, ThePlainStartClearsEveryFlag) {
 }
 
 TEST_F(WizardStartUpTest, TheHomeDirectoryIsTheUsers) {
-    EXPECT_EQ(ec::ecController(host.host(), components.rules, components.root).readHomeDirectory(), "/Users/someone");
+    EXPECT_EQ(ec::ecController(host.host(), components.rules, components.root).readHomeDirectory(),
+              "/Users/someone");
 }
 
 TEST_F(WizardStartUpTest, AnExecutableOutsideTheVolumeIsOnNoDiskImageAndTheDiskIsNotTouched) {
