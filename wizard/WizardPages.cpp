@@ -68,7 +68,7 @@ bool WizardPages::windowShouldClose() {
     if (m_needs.outlets.cancelBtn.isEnabled())
         cancel();
     else if (m_needs.outlets.nextBtn.isEnabled())
-        next();
+        m_needs.steps.nextState(); // and not `next`: a Word that runs keeps nobody here
     return !m_needs.outlets.window.isVisible();
 }
 
@@ -172,14 +172,21 @@ int WizardPages::doCheckForWord() {
 
 void WizardPages::wordQuitHandler() {
     controls::TabView& tabs = m_needs.outlets.ecTabView;
+    controls::Button& back = m_needs.outlets.backBtn;
+    controls::Button& next = m_needs.outlets.nextBtn;
     const int shown = tabs.selected();
     if (m_needs.discovery.isWordRunning()) {
         if (shown != page::kQuitWord) {
             tabs.select(page::kQuitWord);
-            m_needs.outlets.backBtn.setEnabled(false);
+            m_asTheyWere = {back.isEnabled(), next.title()};
+            back.setEnabled(false);
             setNextTitle("Retry");
         }
     } else {
+        if (shown == page::kQuitWord) {
+            back.setEnabled(m_asTheyWere.backEnabled);
+            next.setTitle(m_asTheyWere.nextTitle);
+        }
         tabs.select(m_needs.steps.currentRow().page);
     }
     tabs.display();
