@@ -1,12 +1,10 @@
 #include "wizard/WizardPages.h"
 
 #include <cstddef>
-#include <fstream>
-#include <iterator>
 #include <span>
-#include <vector>
 
 #include "platform/formats/IconFamily.h"
+#include "wizard/FileBytes.h"
 #include "wizard/LaunchModes.h"
 
 namespace ec {
@@ -23,8 +21,7 @@ constexpr int kAgreeRow = 0;
 constexpr int kDisagreeRow = 1;
 
 bool isPicture(const std::string& path) {
-    std::ifstream file(path, std::ios::binary);
-    const std::vector<char> bytes{std::istreambuf_iterator<char>(file), {}};
+    const std::string bytes = bytesOfFile(path);
     return formats::iconFamilyElements(std::as_bytes(std::span(bytes))).has_value();
 }
 
