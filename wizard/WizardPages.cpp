@@ -62,10 +62,12 @@ void WizardPages::cancel() {
 bool WizardPages::windowShouldClose() {
     if (m_needs.steps.isFinished())
         return true;
-    if (m_needs.outlets.cancelBtn.isEnabled())
+    if (m_needs.outlets.cancelBtn.isEnabled()) {
         cancel();
-    else if (m_needs.outlets.nextBtn.isEnabled())
-        m_needs.steps.nextState(); // and not `next`: a Word that runs keeps nobody here
+    } else if (m_needs.outlets.nextBtn.isEnabled()) {
+        comeBackFromQuitWord(); // a Word that runs keeps nobody here
+        m_needs.steps.nextState();
+    }
     return !m_needs.outlets.window.isVisible();
 }
 
@@ -167,24 +169,26 @@ int WizardPages::doCheckForWord() {
     return 0;
 }
 
+void WizardPages::comeBackFromQuitWord() {
+    if (m_needs.outlets.ecTabView.selected() == page::kQuitWord) {
+        m_needs.outlets.backBtn.setEnabled(m_asTheyWere.backEnabled);
+        m_needs.outlets.nextBtn.setTitle(m_asTheyWere.nextTitle);
+    }
+    m_needs.outlets.ecTabView.select(m_needs.steps.currentRow().page);
+}
+
 void WizardPages::wordQuitHandler() {
     controls::TabView& tabs = m_needs.outlets.ecTabView;
-    controls::Button& back = m_needs.outlets.backBtn;
-    controls::Button& next = m_needs.outlets.nextBtn;
     const int shown = tabs.selected();
     if (m_needs.discovery.isWordRunning()) {
         if (shown != page::kQuitWord) {
             tabs.select(page::kQuitWord);
-            m_asTheyWere = {back.isEnabled(), next.title()};
-            back.setEnabled(false);
+            m_asTheyWere = {m_needs.outlets.backBtn.isEnabled(), m_needs.outlets.nextBtn.title()};
+            m_needs.outlets.backBtn.setEnabled(false);
             setNextTitle("Retry");
         }
     } else {
-        if (shown == page::kQuitWord) {
-            back.setEnabled(m_asTheyWere.backEnabled);
-            next.setTitle(m_asTheyWere.nextTitle);
-        }
-        tabs.select(m_needs.steps.currentRow().page);
+        comeBackFromQuitWord();
     }
     tabs.display();
     if ((shown == page::kQuitWord) != (tabs.selected() == page::kQuitWord))

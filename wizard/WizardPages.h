@@ -122,6 +122,8 @@ class WizardPages {
     void setNextTitle(ports::TextKey title) { m_needs.outlets.nextBtn.setTitle(localized(title)); }
     void describeSelectedComponent();
     void beginWork();
+    /// Shows the current step's page again, with the buttons as they were.
+    void comeBackFromQuitWord();
     bool agreedToUninstall(ports::TextKey message, std::string_view label);
 
     /// The buttons before the page that asks to quit Word came up: they are so again after it, as
