@@ -1,12 +1,10 @@
 #include "wizard/WizardPages.h"
 
 #include <cstddef>
-#include <fstream>
-#include <iterator>
 #include <span>
-#include <vector>
 
 #include "platform/formats/IconFamily.h"
+#include "wizard/FileBytes.h"
 #include "wizard/LaunchModes.h"
 
 namespace ec {
@@ -23,8 +21,7 @@ constexpr int kAgreeRow = 0;
 constexpr int kDisagreeRow = 1;
 
 bool isPicture(const std::string& path) {
-    std::ifstream file(path, std::ios::binary);
-    const std::vector<char> bytes{std::istreambuf_iterator<char>(file), {}};
+    const std::string bytes = bytesOfFile(path);
     return formats::iconFamilyElements(std::as_bytes(std::span(bytes))).has_value();
 }
 
@@ -65,10 +62,12 @@ void WizardPages::cancel() {
 bool WizardPages::windowShouldClose() {
     if (m_needs.steps.isFinished())
         return true;
-    if (m_needs.outlets.cancelBtn.isEnabled())
+    if (m_needs.outlets.cancelBtn.isEnabled()) {
         cancel();
-    else if (m_needs.outlets.nextBtn.isEnabled())
-        next();
+    } else if (m_needs.outlets.nextBtn.isEnabled()) {
+        comeBackFromQuitWord(); // a Word that runs keeps nobody here
+        m_needs.steps.nextState();
+    }
     return !m_needs.outlets.window.isVisible();
 }
 
@@ -170,17 +169,26 @@ int WizardPages::doCheckForWord() {
     return 0;
 }
 
+void WizardPages::comeBackFromQuitWord() {
+    if (m_needs.outlets.ecTabView.selected() == page::kQuitWord) {
+        m_needs.outlets.backBtn.setEnabled(m_asTheyWere.backEnabled);
+        m_needs.outlets.nextBtn.setTitle(m_asTheyWere.nextTitle);
+    }
+    m_needs.outlets.ecTabView.select(m_needs.steps.currentRow().page);
+}
+
 void WizardPages::wordQuitHandler() {
     controls::TabView& tabs = m_needs.outlets.ecTabView;
     const int shown = tabs.selected();
     if (m_needs.discovery.isWordRunning()) {
         if (shown != page::kQuitWord) {
             tabs.select(page::kQuitWord);
+            m_asTheyWere = {m_needs.outlets.backBtn.isEnabled(), m_needs.outlets.nextBtn.title()};
             m_needs.outlets.backBtn.setEnabled(false);
             setNextTitle("Retry");
         }
     } else {
-        tabs.select(m_needs.steps.currentRow().page);
+        comeBackFromQuitWord();
     }
     tabs.display();
     if ((shown == page::kQuitWord) != (tabs.selected() == page::kQuitWord))

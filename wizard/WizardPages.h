@@ -53,7 +53,8 @@ class WizardPages {
     /// `cancel:` logs it, gives up the administrator rights and closes the window.
     void cancel();
     /// The user closes the window: that is Cancel where Cancel can be pressed, and the last page's
-    /// button where that is in sight. While work is under way the window stays.
+    /// button where that is in sight, whether Word runs or not. While work is under way the window
+    /// stays.
     bool windowShouldClose();
 
     /// `enableButtons`: Back and Cancel; `disableButtons` the same two.
@@ -121,9 +122,19 @@ class WizardPages {
     void setNextTitle(ports::TextKey title) { m_needs.outlets.nextBtn.setTitle(localized(title)); }
     void describeSelectedComponent();
     void beginWork();
+    /// Shows the current step's page again, with the buttons as they were.
+    void comeBackFromQuitWord();
     bool agreedToUninstall(ports::TextKey message, std::string_view label);
 
+    /// The buttons before the page that asks to quit Word came up: they are so again after it, as
+    /// the page may refuse to be left.
+    struct ButtonsBeforeQuitWord {
+        bool backEnabled = false;
+        std::string nextTitle;
+    };
+
     Needs m_needs;
+    ButtonsBeforeQuitWord m_asTheyWere;
 };
 
 } // namespace ec

@@ -3,10 +3,10 @@
 #include <array>
 #include <filesystem>
 #include <fstream>
-#include <iterator>
 
 #include "engine/LogText.h"
 #include "engine/Product.h"
+#include "wizard/FileBytes.h"
 
 namespace ec {
 
@@ -121,9 +121,8 @@ void WizardStartUp::awakeFromNib() {
 }
 
 void WizardStartUp::readAboutFile() {
-    std::ifstream file(m_needs.session.m_custResourceDir + std::string(gAboutPath),
-                       std::ios::binary);
-    m_needs.session.m_aboutFileString.assign(std::istreambuf_iterator<char>(file), {});
+    m_needs.session.m_aboutFileString =
+        bytesOfFile(m_needs.session.m_custResourceDir + std::string(gAboutPath));
 }
 
 void WizardStartUp::start(std::string_view modeLine, std::uint32_t mode) {

@@ -2,10 +2,9 @@
 
 #include <algorithm>
 #include <array>
-#include <fstream>
-#include <iterator>
 
 #include "engine/LogText.h"
+#include "wizard/FileBytes.h"
 #include "wizard/InstallLog.h"
 
 namespace ec {
@@ -97,8 +96,7 @@ void WizardTexts::showHelp() {
 }
 
 void WizardTexts::showLog() {
-    std::ifstream file(m_needs.session.places.expandTilde(gLogName), std::ios::binary);
-    std::string lines{std::istreambuf_iterator<char>(file), {}};
+    std::string lines = bytesOfFile(m_needs.session.places.expandTilde(gLogName));
     m_needs.reader.read({.title = m_needs.texts.lookUp("Install Log"),
                          .file = {},
                          .anchor = {},

@@ -109,7 +109,7 @@ ecPanelController::showSheetOnWindow(controls::Window& parent, const std::string
 
     m_shown = true;
     m_needs.modalLoop.beginSheet(m_window, parent);
-    const auto session = m_needs.modalLoop.beginModalSession(m_window);
+    auto session = m_needs.modalLoop.beginModalSession(m_window);
     while (true) {
         const int response = m_needs.modalLoop.runModalSession(session);
         if (response == ports::ModalLoop::kContinues)
@@ -121,6 +121,9 @@ ecPanelController::showSheetOnWindow(controls::Window& parent, const std::string
             m_needs.modalLoop.endSheet(m_window);
             break;
         }
+        // Somebody else's stop has hit this session, and one that is stopped serves nobody.
+        m_needs.modalLoop.endModalSession(session);
+        session = m_needs.modalLoop.beginModalSession(m_window);
     }
     m_needs.modalLoop.endModalSession(session);
     m_window.orderOut();

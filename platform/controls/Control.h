@@ -4,6 +4,7 @@
 #pragma once
 
 #include <algorithm>
+#include <cstddef>
 #include <utility>
 #include <vector>
 
@@ -30,6 +31,7 @@ class Control {
     /// An observer must remove itself before it dies, unless the control has died before it.
     void addObserver(Observer& observer) { m_observers.push_back(&observer); }
     void removeObserver(Observer& observer) { std::erase(m_observers, &observer); }
+    std::size_t observerCount() const { return m_observers.size(); }
 
     bool isEnabled() const { return m_enabled; }
     void setEnabled(bool enabled) { change(m_enabled, enabled); }

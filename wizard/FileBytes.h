@@ -1,0 +1,12 @@
+// A whole file of the wizard's, read to be shown: a picture, a text, the log. Any thread.
+#pragma once
+
+#include <string>
+
+namespace ec {
+
+/// The bytes of the file at `path`; none when it is no regular file (a folder, a pipe) or can't be
+/// read. Never throws but for want of memory.
+std::string bytesOfFile(const std::string& path);
+
+} // namespace ec
