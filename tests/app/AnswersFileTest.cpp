@@ -45,7 +45,7 @@ TEST(AnswersFile, EveryKindOfStepIsRead) {
     EXPECT_EQ(std::get<app::PressStep>(file.steps->at(0)).outlet, "nextBtn");
     EXPECT_EQ(std::get<app::ComponentStep>(file.steps->at(1)).state, std::nullopt);
     EXPECT_EQ(std::get<app::ComponentStep>(file.steps->at(2)).state, 1);
-    EXPECT_EQ(std::get<app::RowStep>(file.steps->at(4)).row, -1);
+    EXPECT_EQ(std::get<app::SelectRowStep>(file.steps->at(4)).row, -1);
     EXPECT_EQ(std::get<app::CallStep>(file.steps->at(5)).action, "doGoCustom");
 }
 
