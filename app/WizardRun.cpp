@@ -75,13 +75,18 @@ RunOutcome WizardRun::run() {
     const std::int32_t result = commandNamed(options.command)->open(wizard, options);
     m_program.finishBackgroundWork();
     m_program.adapters().mainQueue.runPending();
-    return outcomeOfWizard(m_program, wizard, result);
+    return outcomeOfWizard(wizard, {.result = result,
+                                    .unfollowed = m_program.driver().failure(),
+                                    .cancelled = m_program.driver().cancelled(),
+                                    .refused = m_program.adapters().administrator.wasRefused()});
 }
 
 // The order is the order in which the codes are given where several hold.
-RunOutcome outcomeOfWizard(Program& program, const ec::ecController& wizard, std::int32_t result) {
-    RunOutcome outcome{
-        .result = result, .code = ExitCode::done, .reason = {}, .summary = wizard.summary().text()};
+RunOutcome outcomeOfWizard(const ec::ecController& wizard, const WizardEnding& ending) {
+    RunOutcome outcome{.result = ending.result,
+                       .code = ExitCode::done,
+                       .reason = {},
+                       .summary = wizard.summary().text()};
     while (outcome.summary.ends_with('\n'))
         outcome.summary.pop_back();
     const auto ended = [&outcome](ExitCode code, std::string reason) {
@@ -89,25 +94,24 @@ RunOutcome outcomeOfWizard(Program& program, const ec::ecController& wizard, std
         outcome.reason = std::move(reason);
         return outcome;
     };
-    const AnswersDriver& driver = program.driver();
-    const std::string failures = failuresOf(wizard);
-    if (driver.failure())
-        return ended(ExitCode::unfollowed, *driver.failure());
-    if (result == ec::result::kNotLoaded)
+    if (ending.unfollowed)
+        return ended(ExitCode::unfollowed, *ending.unfollowed);
+    if (ending.result == ec::result::kNotLoaded)
         return ended(ExitCode::failed, "the interface file Customizer.ui can't be loaded from " +
                                            wizard.m_custResourceDir +
                                            "; get a complete copy of the installer");
     if (wizard.ecTabView.selected() == ec::page::kQuitWord)
         return ended(ExitCode::appsRunning, "Microsoft Word is running; quit it and start again");
-    if (driver.cancelled())
-        return ended(ExitCode::cancelled, *driver.cancelled());
+    if (ending.cancelled)
+        return ended(ExitCode::cancelled, *ending.cancelled);
     if (!wizard.isFinished())
         return ended(ExitCode::cancelled, "the wizard was cancelled");
+    const std::string failures = failuresOf(wizard);
     if (failures.empty())
         return outcome;
-    if (program.adapters().administrator.wasRefused())
+    if (ending.refused)
         return ended(ExitCode::refused,
-                     "administrator rights were needed and refused for " + failures);
+                     "administrator rights were needed and refused: " + failures + " failed");
     return ended(ExitCode::failed, failures + " failed; the log tells what the tools said");
 }
 

@@ -2,6 +2,11 @@
 // to its end and finds out what came of it. Main thread.
 #pragma once
 
+#include <cstdint>
+#include <optional>
+#include <string>
+#include <string_view>
+
 #include "app/Program.h"
 #include "app/RunOutcome.h"
 
@@ -22,7 +27,15 @@ class WizardRun {
 /// Is it one of the wizard's commands?
 bool isWizardCommand(std::string_view command);
 
-/// What came of a wizard that was open and is closed now; `result` is its result code.
-RunOutcome outcomeOfWizard(Program& program, const ec::ecController& wizard, std::int32_t result);
+/// What is known of a wizard's run besides what the wizard itself tells.
+struct WizardEnding {
+    std::int32_t result = 0;               ///< the wizard's result code
+    std::optional<std::string> unfollowed; ///< why the answers file could not be followed
+    std::optional<std::string> cancelled;  ///< why the front end gave it up
+    bool refused = false;                  ///< administrator rights were refused
+};
+
+/// What came of a wizard that is closed now.
+RunOutcome outcomeOfWizard(const ec::ecController& wizard, const WizardEnding& ending);
 
 } // namespace app

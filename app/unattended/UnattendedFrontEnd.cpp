@@ -2,7 +2,7 @@
 
 #include <algorithm>
 #include <fstream>
-#include <iterator>
+#include <sstream>
 #include <utility>
 
 #include "app/CancelWindow.h"
@@ -19,8 +19,10 @@ constexpr std::chrono::milliseconds kLongestSleep{50};
 constexpr std::string_view kQuestionInterface = "ecPanel";
 
 std::string contentsOf(const std::string& path) {
-    std::ifstream file(path, std::ios::binary);
-    return {std::istreambuf_iterator<char>(file), {}};
+    const std::ifstream file(path, std::ios::binary);
+    std::ostringstream text; // reading a folder this way is a failure, not an exception
+    text << file.rdbuf();
+    return text.str();
 }
 
 void giveTitle(const controls::Outlet& control, std::string_view title) {
