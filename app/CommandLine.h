@@ -2,11 +2,19 @@
 #pragma once
 
 #include <chrono>
+#include <cstdint>
 #include <optional>
 #include <string>
 #include <vector>
 
 namespace app {
+
+/// A component that the command line turns on or off.
+struct ComponentChoice {
+    std::string name;
+    bool on = true;
+    bool operator==(const ComponentChoice&) const = default;
+};
 
 struct CommandLine {
     std::string command = "install";
@@ -18,6 +26,11 @@ struct CommandLine {
     std::chrono::seconds waitForApps{0};
     bool noLaunch = false;
     bool events = false;
+    /// --select and --deselect, in the order given.
+    std::vector<ComponentChoice> choices;
+    bool shortSequence = false;
+    std::optional<std::uint32_t> launchMode;
+    bool json = false;
 };
 
 /// What parsing came to: either options to run with, or a text and an exit status to leave with.

@@ -18,6 +18,14 @@ using app::OptionRow;
 
 const std::string kName(app::kProgramName);
 
+bool isRepeatable(const OptionRow& option) {
+    return option.kind == OptionRow::Kind::text;
+}
+
+bool isPath(const OptionRow& option) {
+    return option.kind == OptionRow::Kind::folder || option.kind == OptionRow::Kind::file;
+}
+
 /// A text for troff: hyphens that are typed, quotes and backslashes as they stand.
 std::string troff(std::string_view text) {
     std::string escaped;
@@ -47,8 +55,9 @@ void manualPage(std::ostream& out) {
         << ".SH SYNOPSIS\n.B " << troff(kName) << "\n[\\fIOPTIONS\\fR] [\\fICOMMAND\\fR]\n"
         << ".SH DESCRIPTION\nUnpacks the product from the program's own resources and puts it into "
            "the Applications folder, after checking that neither the product nor Microsoft Word is "
-           "running and asking before it overwrites an installed copy. Every step is written to "
-           "the log.\n.SH COMMANDS\n";
+           "running and asking before it overwrites an installed copy. A wizard installs and "
+           "removes the product's components and updates installed copies. Every step is written "
+           "to the log.\n.SH COMMANDS\n";
     for (const auto& command : kCommands)
         out << ".TP\n.B " << troff(command.name) << "\n" << troff(command.help) << ".\n";
     out << ".SH OPTIONS\n";
@@ -62,7 +71,7 @@ void manualPage(std::ostream& out) {
     constexpr std::string_view kCodes[] = {
         "what was asked for is done",
         "the user cancelled or declined",
-        "wrong usage or an unreadable answers file; nothing was started",
+        "wrong usage, an unreadable answers file or an unknown component; nothing was started",
         "the answers file could not be followed",
         "something failed: standard error says what, and the log holds the tools' lines",
         "administrator rights were needed and refused",
@@ -85,7 +94,7 @@ void bashCompletion(std::ostream& out) {
             out << "    " << option.name << ") COMPREPLY=($(compgen -d -- \"$word\")); return ;;\n";
         else if (option.kind == OptionRow::Kind::file)
             out << "    " << option.name << ") COMPREPLY=($(compgen -f -- \"$word\")); return ;;\n";
-        else if (option.kind == OptionRow::Kind::number)
+        else if (!option.argument.empty())
             out << "    " << option.name << ") return ;;\n";
     }
     out << "    esac\n    COMPREPLY=($(compgen -W \"";
@@ -99,7 +108,8 @@ void bashCompletion(std::ostream& out) {
 void zshCompletion(std::ostream& out) {
     out << "#compdef " << kName << "\n_arguments \\\n";
     for (const OptionRow& option : kOptions) {
-        std::string row = std::string(option.name) + "[" + std::string(option.help) + "]";
+        std::string row = isRepeatable(option) ? "*" : "";
+        row += std::string(option.name) + "[" + std::string(option.help) + "]";
         if (!option.argument.empty()) {
             row += ":" + std::string(option.argument) + ":";
             if (option.kind == OptionRow::Kind::folder)
@@ -121,9 +131,9 @@ void fishCompletion(std::ostream& out) {
             << " -d " << quoted(command.help) << "\n";
     for (const OptionRow& option : kOptions)
         out << "complete -c " << kName << " -l " << option.name.substr(2)
-            << (option.argument.empty()                  ? ""
-                : option.kind == OptionRow::Kind::number ? " -x"
-                                                         : " -r")
+            << (option.argument.empty() ? ""
+                : isPath(option)        ? " -r"
+                                        : " -x")
             << " -d " << quoted(option.help) << "\n";
 }
 

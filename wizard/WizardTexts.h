@@ -36,6 +36,9 @@ class WizardTexts {
     /// Shows the install log.
     void showLog();
 
+    /// What became of each component since the wizard was opened, a line for each.
+    controls::StyledText summary() const;
+
   private:
     class PageWatcher final : public controls::Control::Observer {
       public:
@@ -48,7 +51,6 @@ class WizardTexts {
 
     void pageChanged();
     std::string missing(std::string_view name) const;
-    controls::StyledText summary() const;
 
     Needs m_needs;
     PageWatcher m_pageWatcher{*this};

@@ -3,9 +3,6 @@
 #include <algorithm>
 #include <array>
 #include <string_view>
-#include <vector>
-
-#include "app/unattended/Observers.h"
 
 namespace app {
 
@@ -22,11 +19,11 @@ constexpr std::string_view kQuitButton = "Quit Installer";
 /// Buttons that agree, for --yes.
 constexpr std::array<std::string_view, 2> kAgreeingButtons{"Yes", "Agree"};
 
-std::optional<std::size_t> indexOf(const ports::Alert& alert, std::string_view title) {
-    const auto found = std::ranges::find(alert.buttons, title);
-    if (found == alert.buttons.end())
+std::optional<std::size_t> indexOf(const Question& question, std::string_view title) {
+    const auto found = std::ranges::find(question.buttons, title);
+    if (found == question.buttons.end())
         return std::nullopt;
-    return static_cast<std::size_t>(found - alert.buttons.begin());
+    return static_cast<std::size_t>(found - question.buttons.begin());
 }
 
 std::string listed(const std::vector<std::string>& titles) {
@@ -49,7 +46,10 @@ struct Described {
     std::string operator()(const ComponentStep& s) const {
         return (s.state ? "set \"" : "toggle \"") + s.component + "\"";
     }
-    std::string operator()(const RowStep& s) const { return "select in \"" + s.outlet + "\""; }
+    std::string operator()(const SelectStep& s) const { return "select in \"" + s.outlet + "\""; }
+    std::string operator()(const SelectRowStep& s) const {
+        return "selectRow in \"" + s.outlet + "\"";
+    }
     std::string operator()(const CallStep& s) const { return "call \"" + s.action + "\""; }
     std::string operator()(const WaitStep& s) const { return "waitFor " + s.members.dump(); }
     std::string operator()(const SnapshotStep& s) const { return "snapshot \"" + s.name + "\""; }
@@ -57,7 +57,8 @@ struct Described {
 
 } // namespace
 
-AnswersDriver::AnswersDriver(Needs needs) : m_needs(std::move(needs)) {
+AnswersDriver::AnswersDriver(Needs needs)
+    : m_needs(std::move(needs)), m_pilot({.agree = m_needs.agree}) {
     const auto waits = [](const Step& step) { return std::holds_alternative<WaitStep>(step); };
     if (m_needs.answers.steps && std::ranges::any_of(*m_needs.answers.steps, waits))
         m_needs.events.addListener(
@@ -69,78 +70,94 @@ void AnswersDriver::fail(std::string why) {
         m_failure = std::move(why);
 }
 
-std::size_t AnswersDriver::answer(const ports::Alert& alert) {
-    const auto quit = indexOf(alert, kQuitButton);
+AnswersDriver::Turn AnswersDriver::cancel(std::string why) {
+    if (!m_cancelled)
+        m_cancelled = std::move(why);
+    return Turn::closeWindow;
+}
+
+std::optional<std::size_t> AnswersDriver::answer(const Question& question) {
     if (!m_failure && m_nextAnswer < m_needs.answers.answers.size()) {
         const std::string& title = m_needs.answers.answers[m_nextAnswer++];
-        if (const auto index = indexOf(alert, title))
-            return *index;
-        fail("answers[" + std::to_string(m_nextAnswer - 1) + "]: the question \"" + alert.message +
-             "\" has no button \"" + title + "\"; it has " + listed(alert.buttons));
+        if (const auto index = indexOf(question, title))
+            return index;
+        fail("answers[" + std::to_string(m_nextAnswer - 1) + "]: the question \"" +
+             question.message + "\" has no button \"" + title + "\"; it has " +
+             listed(question.buttons));
     }
-    if (quit) {
+    if (const auto quit = indexOf(question, kQuitButton)) {
         const auto giveUp = Clock::now() + m_needs.waitForApps;
         while (!m_failure && Clock::now() < giveUp && m_needs.appsAreRunning())
             if (!m_needs.pause(kAppsPollInterval))
-                return *quit;
-        return !m_failure && m_needs.waitForApps > 0s && !m_needs.appsAreRunning() ? 0 : *quit;
+                return quit;
+        return !m_failure && m_needs.waitForApps > 0s && !m_needs.appsAreRunning() ? 0 : quit;
     }
-    if (m_needs.agree && !m_failure)
+    if (m_failure)
+        return std::nullopt;
+    if (m_needs.agree)
         for (const std::string_view title : kAgreeingButtons)
-            if (const auto index = indexOf(alert, title))
-                return *index;
+            if (const auto index = indexOf(question, title))
+                return index;
     return 0;
 }
 
-AnswersDriver::Turn AnswersDriver::turn(const controls::Interface& outlets, bool busy) {
-    if (m_failure)
+std::optional<std::string> AnswersDriver::choose() {
+    if (m_failure || m_nextChoice == m_needs.answers.choices.size())
+        return std::nullopt;
+    return m_needs.answers.choices[m_nextChoice++];
+}
+
+AnswersDriver::Turn AnswersDriver::turn(controls::Interface& outlets, bool busy) {
+    if (m_failure || m_cancelled)
         return Turn::closeWindow;
+    ec::ecController* controller = m_needs.controller();
+    const Scene scene{outlets,
+                      controller && &controller->outlets == &outlets ? controller : nullptr};
+    if (!chooseComponents(scene))
+        return Turn::closeWindow;
+    if (m_needs.answers.steps && m_nextStep < m_needs.answers.steps->size())
+        return perform(scene, (*m_needs.answers.steps)[m_nextStep]);
+    if (busy)
+        return Turn::waits;
     if (!m_needs.answers.steps)
-        return turnWithoutSteps(outlets, busy);
-    if (m_nextStep == m_needs.answers.steps->size())
-        return busy ? Turn::waits : Turn::closeWindow;
-    return perform(outlets, (*m_needs.answers.steps)[m_nextStep]);
+        return turnWithoutSteps(scene);
+    return cancel("the steps are over and the window still waits; it was cancelled");
 }
 
-AnswersDriver::Turn AnswersDriver::turnWithoutSteps(const controls::Interface& outlets, bool busy) {
+AnswersDriver::Turn AnswersDriver::turnWithoutSteps(const Scene& scene) {
+    if (scene.wizard) {
+        if (const auto why = m_pilot.act(*scene.wizard))
+            return cancel(*why);
+        return Turn::acted;
+    }
     if (m_pressedFirst)
-        return busy ? Turn::waits : Turn::closeWindow;
+        return Turn::closeWindow;
     m_pressedFirst = true;
-    return press(outlets, m_needs.firstButton);
+    if (auto refusal = pressOutlet(m_needs.firstButton, scene))
+        fail(*refusal);
+    return m_failure ? Turn::closeWindow : Turn::acted;
 }
 
-AnswersDriver::Turn AnswersDriver::perform(const controls::Interface& outlets, const Step& step) {
+/// Once, when the page of components is first in sight: what --select and --deselect say.
+bool AnswersDriver::chooseComponents(const Scene& scene) {
+    if (m_componentsChosen || !scene.wizard ||
+        scene.wizard->ecTabView.selected() != ec::page::kComponents)
+        return true;
+    m_componentsChosen = true;
+    for (const auto& [name, on] : m_needs.choices)
+        if (auto refusal = clickComponent(name, on ? 1 : 0, scene))
+            fail((on ? "--select: " : "--deselect: ") + *refusal);
+    return !m_failure;
+}
+
+AnswersDriver::Turn AnswersDriver::perform(const Scene& scene, const Step& step) {
     if (const auto* wait = std::get_if<WaitStep>(&step))
         return waitFor(wait->members);
     ++m_nextStep;
     m_sinceLastStep.clear();
-    if (const auto* button = std::get_if<PressStep>(&step))
-        return press(outlets, button->outlet);
-    if (const auto* snapshot = std::get_if<SnapshotStep>(&step)) {
-        m_needs.events.emit("snapshot", {{"name", snapshot->name},
-                                         {"page", nullptr},
-                                         {"state", nullptr},
-                                         {"controls", controlsSnapshot(outlets)},
-                                         {"components", Event::array()}});
-        return Turn::acted;
-    }
-    fail("steps[" + std::to_string(m_nextStep - 1) + "]: can't " + std::visit(Described(), step) +
-         ": this window has no such control");
-    return Turn::closeWindow;
-}
-
-AnswersDriver::Turn AnswersDriver::press(const controls::Interface& outlets,
-                                         const std::string& outlet) {
-    const std::string place =
-        m_needs.answers.steps ? "steps[" + std::to_string(m_nextStep - 1) + "]: " : "";
-    const auto* named = outlets.find(outlet);
-    const auto* button = named ? std::get_if<controls::Button*>(&named->control) : nullptr;
-    if (!button)
-        fail(place + "this window has no button \"" + outlet + "\"");
-    else if (!(*button)->isEnabled() || (*button)->isHidden())
-        fail(place + "the button \"" + outlet + "\" can't be pressed now: it is disabled");
-    else
-        (*button)->press();
+    if (auto refusal = performStep(step, scene, m_needs.events))
+        fail("steps[" + std::to_string(m_nextStep - 1) + "]: can't " +
+             std::visit(Described(), step) + ": " + *refusal);
     return m_failure ? Turn::closeWindow : Turn::acted;
 }
 

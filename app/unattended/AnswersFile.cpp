@@ -4,6 +4,7 @@
 #include <array>
 #include <fstream>
 #include <functional>
+#include <limits>
 #include <sstream>
 #include <string_view>
 
@@ -29,9 +30,18 @@ class Reader {
     }
 
     int number(const Json& value, const std::string& place) const {
-        if (!value.is_number_integer())
+        constexpr auto kLeast = std::numeric_limits<int>::min();
+        constexpr auto kMost = std::numeric_limits<int>::max();
+        if (!value.is_number_integer() || value < kLeast || value > kMost)
             fail(place, "write a whole number here");
         return value.get<int>();
+    }
+
+    int state(const Json& value, const std::string& place) const {
+        const int state = number(value, place);
+        if (state != 0 && state != 1)
+            fail(place, "write 0 for off or 1 for on as the state");
+        return state;
     }
 
     const Json& list(const Json& value, const std::string& place) const {
@@ -65,15 +75,15 @@ const std::array<StepKind, 8>& stepKinds() {
          }},
         {"set", "state", true,
          [](const Reader& r, const Json& s, const std::string& p) -> Step {
-             return ComponentStep{r.text(s["set"], p), r.number(s["state"], p)};
+             return ComponentStep{r.text(s["set"], p), r.state(s["state"], p)};
          }},
         {"select", "row", true,
          [](const Reader& r, const Json& s, const std::string& p) -> Step {
-             return RowStep{r.text(s["select"], p), r.number(s["row"], p)};
+             return SelectStep{r.text(s["select"], p), r.number(s["row"], p)};
          }},
         {"selectRow", "row", true,
          [](const Reader& r, const Json& s, const std::string& p) -> Step {
-             return RowStep{r.text(s["selectRow"], p), r.number(s["row"], p)};
+             return SelectRowStep{r.text(s["selectRow"], p), r.number(s["row"], p)};
          }},
         {"call", "", false,
          [](const Reader& r, const Json& s, const std::string& p) -> Step {

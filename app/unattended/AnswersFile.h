@@ -16,13 +16,18 @@ namespace app {
 struct PressStep {
     std::string outlet;
 };
-/// A component as a click would set it: toggled, or set to `state`.
+/// A component as a click would set it: toggled, or set to `state`, 0 or 1.
 struct ComponentStep {
     std::string component;
     std::optional<int> state;
 };
-/// A row of a radio matrix or of a table (-1: none).
-struct RowStep {
+/// A row of a radio matrix.
+struct SelectStep {
+    std::string outlet;
+    int row = 0;
+};
+/// A row of a table; -1: none.
+struct SelectRowStep {
     std::string outlet;
     int row = 0;
 };
@@ -36,7 +41,8 @@ struct WaitStep {
 struct SnapshotStep {
     std::string name;
 };
-using Step = std::variant<PressStep, ComponentStep, RowStep, CallStep, WaitStep, SnapshotStep>;
+using Step = std::variant<PressStep, ComponentStep, SelectStep, SelectRowStep, CallStep, WaitStep,
+                          SnapshotStep>;
 
 /// The file can't be read or says something that it can't say. The text names the file, the place
 /// and the remedy.

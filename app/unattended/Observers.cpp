@@ -1,34 +1,13 @@
 #include "app/unattended/Observers.h"
 
+#include <utility>
+
 namespace app {
 
 namespace {
 
 Event toolEvent(const ports::ToolCall& call, std::string_view as, int status) {
     return {{"path", call.tool}, {"arguments", call.arguments}, {"as", as}, {"status", status}};
-}
-
-Event described(const controls::Button& button) {
-    return {{"kind", "button"},
-            {"title", button.title()},
-            {"enabled", button.isEnabled()},
-            {"hidden", button.isHidden()}};
-}
-
-Event described(const controls::TextField& field) {
-    return {{"kind", "text"},
-            {"text", field.text()},
-            {"enabled", field.isEnabled()},
-            {"hidden", field.isHidden()}};
-}
-
-Event described(const controls::Progress& progress) {
-    return {
-        {"kind", "progress"}, {"running", progress.isRunning()}, {"hidden", progress.isHidden()}};
-}
-
-Event described(const controls::Control& control) {
-    return {{"enabled", control.isEnabled()}, {"hidden", control.isHidden()}};
 }
 
 } // namespace
@@ -81,38 +60,68 @@ void ObservedAlerts::beginSheet(const ports::Alert& alert, controls::Window& win
     });
 }
 
-ControlWatcher::ControlWatcher(controls::TextField& status, controls::Progress& progress,
-                               EventStream& events)
-    : m_status(status), m_progress(progress), m_events(events), m_lastStatus(status.text()) {
+std::optional<std::string> ObservedChoosers::choose(const ports::Chooser& chooser) {
+    const auto answer = m_inner.choose(chooser);
+    const bool folder = chooser.kind == ports::Chooser::Kind::folder;
+    m_events.emit("chooser", {{"kind", folder ? "folder" : "application"},
+                              {"title", chooser.title},
+                              {"folder", chooser.folder},
+                              {"answer", answer ? Event(*answer) : Event()}});
+    return answer;
+}
+
+ports::Watchers eventWatchers(EventStream& events) {
+    return {.logged = [&events](std::string_view line) { events.emit("log", {{"line", line}}); },
+            .rowShown =
+                [&events](const ports::RowShown& row) {
+                    events.emit("page", {{"page", row.page},
+                                         {"state", row.state},
+                                         {"title", row.title},
+                                         {"outline", row.outline},
+                                         {"current", row.current},
+                                         {"identity", row.identity}});
+                },
+            .answered =
+                [&events](const ports::QuestionAnswered& question) {
+                    events.emit("question", {{"title", question.title},
+                                             {"message", question.message},
+                                             {"buttons", question.buttons},
+                                             {"answer", question.answer},
+                                             {"code", question.code}});
+                }};
+}
+
+ControlWatcher::ControlWatcher(controls::TextField& status,
+                               std::vector<controls::Progress*> indicators, EventStream& events)
+    : m_status(status), m_indicators(std::move(indicators)), m_events(events),
+      m_lastStatus(status.text()) {
     m_status.addObserver(*this);
-    m_progress.addObserver(*this);
+    for (controls::Progress* indicator : m_indicators)
+        indicator->addObserver(*this);
 }
 
 ControlWatcher::~ControlWatcher() {
     m_status.removeObserver(*this);
-    m_progress.removeObserver(*this);
+    for (controls::Progress* indicator : m_indicators)
+        indicator->removeObserver(*this);
 }
 
 void ControlWatcher::controlChanged(controls::Control& control) {
-    if (&control == &m_progress) {
-        Event members = {{"running", m_progress.isRunning()}};
-        if (const auto& amount = m_progress.amount(); amount.total != 0) {
+    for (const controls::Progress* indicator : m_indicators) {
+        if (&control != indicator)
+            continue;
+        Event members = {{"running", indicator->isRunning()}};
+        if (const auto& amount = indicator->amount(); amount.total != 0) {
             members["done"] = amount.done;
             members["total"] = amount.total;
             members["files"] = amount.files;
         }
         m_events.emit("progress", members);
-    } else if (m_status.text() != m_lastStatus) {
+    }
+    if (&control == &m_status && m_status.text() != m_lastStatus) {
         m_lastStatus = m_status.text();
         m_events.emit("status", {{"text", m_lastStatus}});
     }
-}
-
-Event controlsSnapshot(const controls::Interface& outlets) {
-    Event all = Event::object();
-    for (const auto& [name, control] : outlets.outlets)
-        std::visit([&](const auto* model) { all[std::string(name)] = described(*model); }, control);
-    return all;
 }
 
 } // namespace app

@@ -4,13 +4,17 @@
 
 #include <atomic>
 #include <functional>
+#include <optional>
 #include <string>
+#include <vector>
 
 #include "app/unattended/EventStream.h"
-#include "platform/controls/Interface.h"
+#include "platform/controls/Progress.h"
+#include "platform/controls/TextField.h"
 #include "platform/ports/Administrator.h"
 #include "platform/ports/FrontEnd.h"
 #include "platform/ports/Tools.h"
+#include "platform/ports/Watchers.h"
 
 namespace app {
 
@@ -60,10 +64,26 @@ class ObservedAlerts final : public ports::AlertSheets {
     EventStream& m_events;
 };
 
-/// `status` events for the status line and `progress` events for the indicator of one interface.
+/// `chooser` events, told when the user has chosen or cancelled.
+class ObservedChoosers final : public ports::FileChoosers {
+  public:
+    ObservedChoosers(ports::FileChoosers& inner, EventStream& events)
+        : m_inner(inner), m_events(events) {}
+    std::optional<std::string> choose(const ports::Chooser& chooser) override;
+
+  private:
+    ports::FileChoosers& m_inner;
+    EventStream& m_events;
+};
+
+/// The core's own watchers: `log`, `page` and, for the questions of the wizard, `question` events.
+ports::Watchers eventWatchers(EventStream& events);
+
+/// `status` events for the status line and `progress` events for the indicators of one interface.
 class ControlWatcher final : private controls::Control::Observer {
   public:
-    ControlWatcher(controls::TextField& status, controls::Progress& progress, EventStream& events);
+    ControlWatcher(controls::TextField& status, std::vector<controls::Progress*> indicators,
+                   EventStream& events);
     ~ControlWatcher();
     ControlWatcher(const ControlWatcher&) = delete;
     ControlWatcher& operator=(const ControlWatcher&) = delete;
@@ -72,12 +92,9 @@ class ControlWatcher final : private controls::Control::Observer {
     void controlChanged(controls::Control& control) override;
 
     controls::TextField& m_status;
-    controls::Progress& m_progress;
+    std::vector<controls::Progress*> m_indicators;
     EventStream& m_events;
     std::string m_lastStatus;
 };
-
-/// The `controls` member of a snapshot: every outlet by its name.
-Event controlsSnapshot(const controls::Interface& outlets);
 
 } // namespace app

@@ -1,6 +1,7 @@
 // The front end without a window: it shows nothing, runs the same modal loops and sheets as a
-// window does, and lets the answers driver act wherever a person would. No display is needed. Main
-// thread only.
+// window does, and lets the answers driver act wherever a person would. Several windows may be
+// open, one session inside the other; the driver always works the one whose session is the
+// innermost. No display is needed. Main thread only.
 #pragma once
 
 #include <chrono>
@@ -21,7 +22,8 @@ class UnattendedFrontEnd final : public ports::InterfaceFiles,
                                  public ports::Appearance,
                                  public ports::FileChoosers,
                                  public ports::Reader,
-                                 public ports::Beeper {
+                                 public ports::Beeper,
+                                 private controls::Control::Observer {
   public:
     struct Needs {
         AnswersDriver& driver;
@@ -33,6 +35,8 @@ class UnattendedFrontEnd final : public ports::InterfaceFiles,
         std::function<void(std::chrono::milliseconds)> waitForWork;
     };
     explicit UnattendedFrontEnd(Needs needs) : m_needs(std::move(needs)) {}
+    /// The windows of the interfaces that it loaded are gone by now.
+    ~UnattendedFrontEnd() override = default;
 
     bool load(std::string_view name, controls::Interface& outlets) override;
     void beginSheet(const ports::Alert& alert, controls::Window& window,
@@ -42,10 +46,12 @@ class UnattendedFrontEnd final : public ports::InterfaceFiles,
     Session beginModalSession(controls::Window& window) override;
     int runModalSession(Session session) override;
     void endModalSession(Session session) override;
-    void beginSheet(controls::Window& sheet, controls::Window& parent) override;
-    void endSheet(controls::Window& sheet) override;
+    void beginSheet(controls::Window& sheet, controls::Window&) override { sheet.orderFront(); }
+    void endSheet(controls::Window& sheet) override { sheet.orderOut(); }
     void terminate() override { m_terminated = true; }
-    std::optional<std::string> choose(const ports::Chooser& chooser) override;
+    std::optional<std::string> choose(const ports::Chooser&) override {
+        return m_needs.driver.choose();
+    }
     void read(const ports::ReadingMatter&, controls::Window&) override {}
     void beep() override {}
     bool isDark() const override { return false; }
@@ -56,10 +62,19 @@ class UnattendedFrontEnd final : public ports::InterfaceFiles,
         ports::Alert alert;
         std::function<void(int)> completion;
     };
+    struct Loaded {
+        const controls::Control* window; ///< compared only: it may be on its way out
+        controls::Interface* outlets;
+        bool isQuestion;
+    };
+    void controlChanged(controls::Control&) override {}
+    void controlDestroyed(controls::Control& window) override;
     void answer(const Sheet& sheet);
+    void answerQuestion(controls::Interface& outlets);
+    void act(const Loaded& loaded);
 
     Needs m_needs;
-    controls::Interface* m_outlets = nullptr;
+    std::vector<Loaded> m_interfaces;
     std::optional<Sheet> m_sheet;
     struct OpenSession {
         controls::Window* window;

@@ -45,7 +45,7 @@ TEST(AnswersFile, EveryKindOfStepIsRead) {
     EXPECT_EQ(std::get<app::PressStep>(file.steps->at(0)).outlet, "nextBtn");
     EXPECT_EQ(std::get<app::ComponentStep>(file.steps->at(1)).state, std::nullopt);
     EXPECT_EQ(std::get<app::ComponentStep>(file.steps->at(2)).state, 1);
-    EXPECT_EQ(std::get<app::RowStep>(file.steps->at(4)).row, -1);
+    EXPECT_EQ(std::get<app::SelectRowStep>(file.steps->at(4)).row, -1);
     EXPECT_EQ(std::get<app::CallStep>(file.steps->at(5)).action, "doGoCustom");
 }
 
@@ -63,6 +63,12 @@ TEST(AnswersFile, ErrorsNameTheFileThePlaceAndTheRemedy) {
     EXPECT_THAT(errorOf(R"({"steps": [{"press": "a"}, {"push": "b"}]})"), HasSubstr("steps[1]"));
     EXPECT_THAT(errorOf(R"({"steps": [7]})"), HasSubstr("steps[0]"));
     EXPECT_THAT(errorOf(R"({"steps": [{"set": "A"}]})"), HasSubstr("\"state\""));
+    EXPECT_THAT(errorOf(R"({"steps": [{"set": "A", "state": 2}]})"),
+                AllOf(HasSubstr("steps[0]"), HasSubstr("0 for off or 1 for on")));
+    EXPECT_THAT(errorOf(R"({"steps": [{"set": "A", "state": true}]})"), HasSubstr("whole number"));
+    EXPECT_THAT(errorOf(R"({"steps": [{"select": "A", "row": 4294967296}]})"),
+                HasSubstr("whole number"));
+    EXPECT_THAT(errorOf(R"({"steps": [{"selectRow": "A"}]})"), HasSubstr("\"row\""));
     EXPECT_THAT(errorOf(R"({"steps": [{"press": "a", "row": 1}]})"), HasSubstr("take it out"));
     EXPECT_THAT(errorOf(R"({"steps": [{"waitFor": {"text": "x"}}]})"), HasSubstr("\"event\""));
 }

@@ -1,0 +1,118 @@
+#include "app/WizardRun.h"
+
+#include <algorithm>
+#include <array>
+
+#include "app/CancelWindow.h"
+#include "wizard/LaunchModes.h"
+
+namespace app {
+
+namespace {
+
+std::int32_t openFirstInstall(ec::ecController& wizard, const CommandLine& options) {
+    const auto usual =
+        options.shortSequence ? ec::launch::kShortInstall : ec::launch::kFirstInstall;
+    return wizard.showCustomizerFromMenu(options.launchMode.value_or(usual));
+}
+
+struct WizardCommand {
+    std::string_view name;
+    std::int32_t (*open)(ec::ecController&, const CommandLine&);
+};
+constexpr std::array kWizardCommands{
+    WizardCommand{"customize",
+                  [](ec::ecController& wizard, const CommandLine&) {
+                      return wizard.showCustomizerFromMenu(ec::launch::kCustomize);
+                  }},
+    WizardCommand{"penmark",
+                  [](ec::ecController& wizard, const CommandLine&) {
+                      return wizard.showCustomizerFromMenu(ec::launch::kPenmark);
+                  }},
+    WizardCommand{"first-install", openFirstInstall},
+    WizardCommand{"update", [](ec::ecController& wizard,
+                               const CommandLine&) { return wizard.showPatcherFromMenu(); }},
+};
+
+const WizardCommand* commandNamed(std::string_view name) {
+    const auto* found = std::ranges::find(kWizardCommands, name, &WizardCommand::name);
+    return found == kWizardCommands.end() ? nullptr : found;
+}
+
+/// The components that failed, by their titles.
+std::string failuresOf(const ec::WizardSession& session) {
+    std::string titles;
+    for (const ec::ComponentOutcome& outcome : session.outcomes)
+        if (!outcome.succeeded)
+            titles += (titles.empty() ? "" : ", ") + outcome.title;
+    return titles;
+}
+
+} // namespace
+
+bool isWizardCommand(std::string_view command) {
+    return commandNamed(command) != nullptr;
+}
+
+RunOutcome WizardRun::run() {
+    ec::ecController wizard(m_program.host(), m_program.rules(), m_program.root());
+    const ControlWatcher watcher(wizard.processingText, {&wizard.progress, &wizard.custProgress},
+                                 m_program.events());
+    const Program::Hooked hooked(
+        m_program,
+        {.controller = &wizard,
+         .cancel =
+             [&] {
+                 cancelWindow(wizard.outlets);
+                 m_program.host().modalLoop.terminate(); // and with it any question
+             },
+         .showProgress =
+             [&wizard](const ports::ToolProgress& progress) {
+                 if (wizard.progress.isRunning())
+                     wizard.progress.setAmount({progress.done, progress.total, progress.files});
+             }});
+    const CommandLine& options = m_program.options();
+    const std::int32_t result = commandNamed(options.command)->open(wizard, options);
+    m_program.finishBackgroundWork();
+    m_program.adapters().mainQueue.runPending();
+    return outcomeOfWizard(wizard, {.result = result,
+                                    .unfollowed = m_program.driver().failure(),
+                                    .cancelled = m_program.driver().cancelled(),
+                                    .refused = m_program.adapters().administrator.wasRefused()});
+}
+
+// The order is the order in which the codes are given where several hold.
+RunOutcome outcomeOfWizard(const ec::ecController& wizard, const WizardEnding& ending) {
+    RunOutcome outcome{.result = ending.result,
+                       .code = ExitCode::done,
+                       .reason = {},
+                       .summary = wizard.summary().text()};
+    while (outcome.summary.ends_with('\n'))
+        outcome.summary.pop_back();
+    const auto ended = [&outcome](ExitCode code, std::string reason) {
+        outcome.code = code;
+        outcome.reason = std::move(reason);
+        return outcome;
+    };
+    if (ending.unfollowed)
+        return ended(ExitCode::unfollowed, *ending.unfollowed);
+    if (ending.result == ec::result::kNotLoaded)
+        return ended(ExitCode::failed, "the interface file Customizer.ui can't be loaded from " +
+                                           wizard.m_custResourceDir +
+                                           "; get a complete copy of the installer");
+    if (wizard.ecTabView.selected() == ec::page::kQuitWord)
+        return ended(ExitCode::appsRunning, "Microsoft Word is running; quit it and start again");
+    if (ending.cancelled)
+        return ended(ExitCode::cancelled, *ending.cancelled);
+    if (!wizard.isFinished())
+        return ended(ExitCode::cancelled, "the wizard was cancelled");
+    const std::string failures = failuresOf(wizard);
+    if (failures.empty())
+        return outcome;
+    if (ending.refused)
+        return ended(ExitCode::refused,
+                     "administrator rights were needed and refused: " + failures + " failed");
+    return ended(ExitCode::failed, failures + " failed; the log tells what the tools said");
+}
+
+} // namespace app
