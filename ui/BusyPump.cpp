@@ -2,6 +2,7 @@
 
 #include <QCoreApplication>
 #include <QEvent>
+#include <QSocketNotifier>
 #include <QThread>
 
 namespace ui {
@@ -47,11 +48,14 @@ void BusyPump::pump() {
     if (m_pumps || !application || QThread::currentThread() != application->thread())
         return;
     m_pumps = true;
+    const bool served = m_mainQueue.isEnabled();
+    m_mainQueue.setEnabled(false);
     application->installEventFilter(this);
     // The toolkit could leave input out by itself, but it would keep it: a click would land on
     // whatever is in sight when the work is done.
-    QCoreApplication::processEvents(QEventLoop::ExcludeSocketNotifiers);
+    QCoreApplication::processEvents();
     application->removeEventFilter(this);
+    m_mainQueue.setEnabled(served);
     m_pumps = false;
 }
 

@@ -6,10 +6,15 @@
 
 #include <QObject>
 
+class QSocketNotifier;
+
 namespace ui {
 
 class BusyPump final : public QObject {
   public:
+    /// `mainQueue` tells of work in the main queue; outlives the pump.
+    explicit BusyPump(QSocketNotifier& mainQueue) : m_mainQueue(mainQueue) {}
+
     /// Serves what has come and returns. For whoever waits to call every 15 ms or so, and once more
     /// when the wait is over. Does nothing on another thread than the toolkit's.
     void pump();
@@ -17,6 +22,7 @@ class BusyPump final : public QObject {
   private:
     bool eventFilter(QObject* watched, QEvent* event) override;
 
+    QSocketNotifier& m_mainQueue;
     bool m_pumps = false;
 };
 

@@ -132,7 +132,7 @@ QVariant DocumentBrowser::loadResource(int type, const QUrl& name) {
     const QString folder = QFileInfo(m_file).absolutePath() + '/';
     const QString path = QDir::cleanPath(name.toLocalFile());
     if (m_file.isEmpty() || !name.isLocalFile() || !path.startsWith(folder))
-        return {};
+        return QByteArray(); // where there is nothing at all, the document would read it by itself
     return QTextBrowser::loadResource(type, QUrl::fromLocalFile(path));
 }
 

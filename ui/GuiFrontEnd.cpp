@@ -39,8 +39,8 @@ struct GuiFrontEnd::Parts {
           sheets(files), loop(files),
           choosers({.loop = loop, .texts = needs.texts, .typeOf = needs.typeOfFile}),
           reader({.files = files, .loop = loop, .texts = needs.texts}),
-          appearance(application.isDark()),
-          queue(needs.mainQueueDescriptor, QSocketNotifier::Read) {
+          appearance(application.isDark()), queue(needs.mainQueueDescriptor, QSocketNotifier::Read),
+          busyPump(queue) {
         QObject::connect(&queue, &QSocketNotifier::activated, &queue,
                          [runPending = needs.runPending] { runPending(); });
     }
@@ -53,8 +53,8 @@ struct GuiFrontEnd::Parts {
     ReaderSheet reader;
     DesktopAppearance appearance;
     ToolkitBeeper beeper;
-    BusyPump busyPump;
     QSocketNotifier queue;
+    BusyPump busyPump;
 };
 
 GuiFrontEnd::GuiFrontEnd(const Needs& needs) : m_parts(std::make_unique<Parts>(needs)) {}

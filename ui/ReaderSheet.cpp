@@ -58,12 +58,12 @@ class ReaderDialog final : public QDialog {
         page->addWidget(heading);
         page->addWidget(m_text, 1);
         page->addLayout(buttons);
-        m_text->setFocus();
     }
 
   protected:
     void showEvent(QShowEvent* event) override {
         QDialog::showEvent(event);
+        m_text->setFocus();
         m_text->goToAnchor(); // now that the lines have their width
     }
 

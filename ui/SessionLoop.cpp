@@ -162,6 +162,7 @@ void SessionLoop::runDialog(QDialog& dialog) {
     QObject::connect(&dialog, &QDialog::finished, &loop, &QEventLoop::quit);
     m_dialogs.push_back(&dialog);
     dialog.show();
+    dialog.activateWindow();
     if (dialog.isVisible())
         loop.exec();
     std::erase(m_dialogs, &dialog);

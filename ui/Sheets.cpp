@@ -28,6 +28,7 @@ void Sheets::beginSheet(const ports::Alert& alert, controls::Window& window,
         });
     m_open.emplace_back(sheet);
     sheet->show();
+    sheet->activateWindow();
 }
 
 void Sheets::finish(int index, const std::function<void(int)>& completion) {

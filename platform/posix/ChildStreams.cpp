@@ -3,6 +3,7 @@
 #include <algorithm>
 #include <array>
 #include <cerrno>
+#include <chrono>
 #include <poll.h>
 #include <sys/ioctl.h>
 #include <vector>
@@ -16,6 +17,10 @@ namespace {
 /// Where the system can't tell when a child ends, it is asked this often (milliseconds).
 constexpr int kPollInterval = 20;
 
+/// A window that is drawn this often seems alive.
+constexpr int kMeanwhileInterval = 15;
+
+using Clock = std::chrono::steady_clock;
 using Buffer = std::array<char, 65536>;
 
 /// One read of at most `limit` bytes; closes the stream at its end.
@@ -44,17 +49,24 @@ void takeTheRest(ChildStream& stream, Buffer& buffer) {
 
 } // namespace
 
-int waitTakingIn(ChildProcess& child, std::span<ChildStream> streams) {
+int waitTakingIn(ChildProcess& child, std::span<ChildStream> streams,
+                 const std::function<void()>& meanwhile) {
     Buffer buffer;
     const auto open = [](const ChildStream& stream) { return stream.reading.isOpen(); };
-    const Descriptor end =
-        std::ranges::any_of(streams, open) ? watchEnd(child.pid()) : Descriptor();
+    const auto watches = [&] { return meanwhile || std::ranges::any_of(streams, open); };
+    const Descriptor end = watches() ? watchEnd(child.pid()) : Descriptor();
     std::vector<pollfd> waiting(streams.size() + 1);
-    while (std::ranges::any_of(streams, open)) {
+    auto next = Clock::now();
+    while (watches()) {
+        if (meanwhile && Clock::now() >= next) {
+            meanwhile();
+            next = Clock::now() + std::chrono::milliseconds(kMeanwhileInterval);
+        }
         for (std::size_t i = 0; i < streams.size(); ++i)
             waiting[i] = {streams[i].reading.number(), POLLIN, 0};
         waiting.back() = {end.number(), POLLIN, 0};
-        if (::poll(waiting.data(), waiting.size(), end.isOpen() ? -1 : kPollInterval) < 0) {
+        const int timeout = meanwhile ? kMeanwhileInterval : end.isOpen() ? -1 : kPollInterval;
+        if (::poll(waiting.data(), waiting.size(), timeout) < 0) {
             if (errno == EINTR)
                 continue;
             break;
@@ -70,6 +82,8 @@ int waitTakingIn(ChildProcess& child, std::span<ChildStream> streams) {
         takeTheRest(stream, buffer);
         stream.reading.close();
     }
+    if (meanwhile)
+        meanwhile();
     return status;
 }
 

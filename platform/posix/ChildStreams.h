@@ -19,7 +19,9 @@ struct ChildStream {
 
 /// Hands over what arrives on `streams` until the child has ended, and then what it had written
 /// before. Calls `take` on this thread; what it throws leaves here. Answers as
-/// `ChildProcess::wait` does; the streams are closed then.
-int waitTakingIn(ChildProcess& child, std::span<ChildStream> streams);
+/// `ChildProcess::wait` does; the streams are closed then. `meanwhile`, if there is one, is called
+/// on this thread every 15 ms or so, and once more when the child has ended.
+int waitTakingIn(ChildProcess& child, std::span<ChildStream> streams,
+                 const std::function<void()>& meanwhile = nullptr);
 
 } // namespace posix

@@ -60,7 +60,7 @@ int SpawnedTools::run(const ports::ToolCall& call) {
     if (child.start(setUp) != 0)
         return kCannotStart;
     std::array streams{progress.stream()};
-    return waitTakingIn(child, streams);
+    return waitTakingIn(child, streams, m_needs.whileWaiting);
 }
 
 ports::Tools::Captured SpawnedTools::capture(const ports::ToolCall& call) {
@@ -80,7 +80,7 @@ ports::Tools::Captured SpawnedTools::capture(const ports::ToolCall& call) {
     std::array streams{ChildStream{std::move(output.reading),
                                    [&](std::string_view bytes) { captured.output += bytes; }},
                        progress.stream()};
-    captured.status = waitTakingIn(child, streams);
+    captured.status = waitTakingIn(child, streams, m_needs.whileWaiting);
     return captured;
 }
 

@@ -17,6 +17,9 @@ class SpawnedTools final : public ports::Tools {
         /// Hears what a tool of our own reports while `run` or `capture` waits for it, on the
         /// thread that waits. The tool finds the pipe's number in SCRIVEL_PROGRESS_FD.
         std::function<void(const ports::ToolProgress&)> progress = {};
+        /// Called every 15 ms or so while `run` or `capture` waits for a tool, and once more when
+        /// the tool has ended, on the thread that waits: keeps a window alive.
+        std::function<void()> whileWaiting = {};
         /// `run` sends the tools' standard output to the program's standard error, for a program
         /// whose own standard output must carry nothing else.
         bool outputToError = false;
