@@ -27,154 +27,154 @@
 <message><source>%@ GB of %@ GB</source><translation>%@ GB / %@ GB</translation></message>
 <message><source>The installer of %@ needs administrator rights.</source><translation>%@のインストーラには管理者権限が必要です。</translation></message>
 <message><source>Password:</source><translation>パスワード：</translation></message>
-<message><source>Welcome</source><translation type="unfinished"></translation></message>
-<message><source>Read Me</source><translation type="unfinished"></translation></message>
-<message><source>License</source><translation type="unfinished"></translation></message>
-<message><source>Customization</source><translation type="unfinished"></translation></message>
-<message><source>Updating System</source><translation type="unfinished"></translation></message>
-<message><source>Summary</source><translation type="unfinished"></translation></message>
-<message><source>Finding Scrivel</source><translation type="unfinished"></translation></message>
-<message><source>Found Scrivel</source><translation type="unfinished"></translation></message>
-<message><source>Welcome to Scrivel 21</source><translation type="unfinished"></translation></message>
-<message><source>End User License Agreement</source><translation type="unfinished"></translation></message>
-<message><source>Select Components</source><translation type="unfinished"></translation></message>
-<message><source>Thank you for using Scrivel 21</source><translation type="unfinished"></translation></message>
-<message><source>Finish</source><translation type="unfinished"></translation></message>
-<message><source>Uninstall Scrivel 21</source><translation type="unfinished"></translation></message>
-<message><source>Welcome to Scrivel 21 Update</source><translation type="unfinished"></translation></message>
-<message><source>Penmark for Microsoft Word</source><translation type="unfinished"></translation></message>
-<message><source>Scrivel Penmark Configuration</source><translation type="unfinished"></translation></message>
-<message><source>Welcome to Scrivel Penmark</source><translation type="unfinished"></translation></message>
-<message><source>Continue</source><translation type="unfinished"></translation></message>
-<message><source>Next</source><translation type="unfinished"></translation></message>
-<message><source>Done</source><translation type="unfinished"></translation></message>
-<message><source>Exit</source><translation type="unfinished"></translation></message>
-<message><source>Retry</source><translation type="unfinished"></translation></message>
-<message><source>Scrivel 21 Installer</source><translation type="unfinished"></translation></message>
-<message><source>Uninstall will remove Scrivel Penmark from your computer.  Are you sure you want to do this?</source><translation type="unfinished"></translation></message>
-<message><source>Uninstall will remove all external Scrivel components from your computer.  Are you sure you want to do this?</source><translation type="unfinished"></translation></message>
-<message><source>Back</source><translation type="unfinished"></translation></message>
-<message><source>%@ Customizer</source><translation type="unfinished"></translation></message>
-<message><source>%@ was removed.</source><translation type="unfinished"></translation></message>
-<message><source>%@ could not be removed.</source><translation type="unfinished"></translation></message>
-<message><source>%@ was installed.</source><translation type="unfinished"></translation></message>
-<message><source>%@ could not be installed.</source><translation type="unfinished"></translation></message>
-<message><source>The text “%@” is missing from this copy of the installer. Get a complete copy to read it.</source><translation type="unfinished"></translation></message>
-<message><source>Help</source><translation type="unfinished"></translation></message>
-<message><source>Install Log</source><translation type="unfinished"></translation></message>
-<message><source>The install log is empty.</source><translation type="unfinished"></translation></message>
-<message><source>Nothing was changed.</source><translation type="unfinished"></translation></message>
-<message><source>Steps</source><translation type="unfinished"></translation></message>
-<message><source>Looking at what is installed on this computer…</source><translation type="unfinished"></translation></message>
-<message><source>Search progress</source><translation type="unfinished"></translation></message>
-<message><source>This can take a moment.</source><translation type="unfinished"></translation></message>
-<message><source>Please read the license agreement. To continue, you need to agree to it.</source><translation type="unfinished"></translation></message>
-<message><source>License agreement</source><translation type="unfinished"></translation></message>
-<message><source>Answer to the license agreement</source><translation type="unfinished"></translation></message>
-<message><source>Agree</source><translation type="unfinished"></translation></message>
-<message><source>Disagree</source><translation type="unfinished"></translation></message>
-<message><source>Select the components that you want to use. Cleared components are removed.</source><translation type="unfinished"></translation></message>
-<message><source>Components</source><translation type="unfinished"></translation></message>
-<message><source>Component</source><translation type="unfinished"></translation></message>
-<message><source>Installed</source><translation type="unfinished"></translation></message>
-<message><source>Description</source><translation type="unfinished"></translation></message>
-<message><source>Uninstall…</source><translation type="unfinished"></translation></message>
-<message><source>Removes all components from this computer</source><translation type="unfinished"></translation></message>
-<message><source>This is the result of the installation. The log holds every step.</source><translation type="unfinished"></translation></message>
-<message><source>Result of the installation</source><translation type="unfinished"></translation></message>
-<message><source>This is the result for the components that you selected. The log holds every step.</source><translation type="unfinished"></translation></message>
-<message><source>Result of the change</source><translation type="unfinished"></translation></message>
-<message><source>All components of Scrivel 21 outside its own folder will be removed from this computer: the Penmark add-in for Microsoft Word, the Spotlight importer, the Services and the browser extension.</source><translation type="unfinished"></translation></message>
-<message><source>Your libraries and documents stay where they are.</source><translation type="unfinished"></translation></message>
-<message><source>Update progress</source><translation type="unfinished"></translation></message>
-<message><source>Please leave the computer switched on and do not quit the installer until this is finished.</source><translation type="unfinished"></translation></message>
-<message><source>This is the result of the uninstallation. The log holds every step.</source><translation type="unfinished"></translation></message>
-<message><source>Result of the uninstallation</source><translation type="unfinished"></translation></message>
-<message><source>Quit Microsoft Word, then click Retry.</source><translation type="unfinished"></translation></message>
-<message><source>Microsoft Word is open. Its add-ins can only be changed while it is closed. Save your documents in Word before you quit it.</source><translation type="unfinished"></translation></message>
-<message><source>Spotlight and Services</source><translation type="unfinished"></translation></message>
-<message><source>Choose who can use the components that you have just selected.</source><translation type="unfinished"></translation></message>
-<message><source>Spotlight: find your Scrivel documents with the search of the system</source><translation type="unfinished"></translation></message>
-<message><source>Who can use the Spotlight importer</source><translation type="unfinished"></translation></message>
-<message><source>Only for me</source><translation type="unfinished"></translation></message>
-<message><source>Goes into the Library folder of your home folder.</source><translation type="unfinished"></translation></message>
-<message><source>For all users of this computer</source><translation type="unfinished"></translation></message>
-<message><source>Goes into the computer’s Library folder. An administrator password may be asked for.</source><translation type="unfinished"></translation></message>
-<message><source>Services: use Scrivel from the Services menu of other applications</source><translation type="unfinished"></translation></message>
-<message><source>Who can use the Services</source><translation type="unfinished"></translation></message>
-<message><source>This is the result of the update, copy by copy. The log holds every step.</source><translation type="unfinished"></translation></message>
-<message><source>Result of the update</source><translation type="unfinished"></translation></message>
-<message><source>There is no copy of Scrivel 21 that this update fits.</source><translation type="unfinished"></translation></message>
-<message><source>Nothing was changed on this computer. A copy that is already up to date, or that was altered, is not offered; the log names every copy that was looked at.</source><translation type="unfinished"></translation></message>
-<message><source>The add-in goes into the startup folder of each copy and is loaded when Word is opened the next time.</source><translation type="unfinished"></translation></message>
-<message><source>These are the copies of Microsoft Word that get the Penmark add-in. Add a copy that is missing, or change the startup folder of one.</source><translation type="unfinished"></translation></message>
-<message><source>Copies of Microsoft Word</source><translation type="unfinished"></translation></message>
-<message><source>Word</source><translation type="unfinished"></translation></message>
-<message><source>Startup Folder</source><translation type="unfinished"></translation></message>
-<message><source>Version</source><translation type="unfinished"></translation></message>
-<message><source>Adds a copy of Word and its startup folder</source><translation type="unfinished"></translation></message>
-<message><source>Add</source><translation type="unfinished"></translation></message>
-<message><source>Removes the add-in from the selected folder and forgets the folder</source><translation type="unfinished"></translation></message>
-<message><source>Remove</source><translation type="unfinished"></translation></message>
-<message><source>Change…</source><translation type="unfinished"></translation></message>
-<message><source>Chooses another startup folder for the selected copy</source><translation type="unfinished"></translation></message>
-<message><source>Reset</source><translation type="unfinished"></translation></message>
-<message><source>Forgets the folder that you chose for the selected copy</source><translation type="unfinished"></translation></message>
-<message><source>Penmark is the add-in of Scrivel for Microsoft Word. While you write, it inserts citations from your library and builds the bibliography in the style that you choose.</source><translation type="unfinished"></translation></message>
-<message><source>What to do with Penmark</source><translation type="unfinished"></translation></message>
-<message><source>Install Penmark</source><translation type="unfinished"></translation></message>
-<message><source>Puts the add-in into the startup folder of every copy of Word on this computer.</source><translation type="unfinished"></translation></message>
-<message><source>Uninstall Penmark</source><translation type="unfinished"></translation></message>
-<message><source>Removes the add-in from Word. Your documents and their citations stay as they are.</source><translation type="unfinished"></translation></message>
-<message><source>Quit Microsoft Word before you continue.</source><translation type="unfinished"></translation></message>
-<message><source>This is the result for Scrivel Penmark. The log holds every step.</source><translation type="unfinished"></translation></message>
-<message><source>Result for Scrivel Penmark</source><translation type="unfinished"></translation></message>
-<message><source>This is the result of removing Scrivel Penmark. The log holds every step.</source><translation type="unfinished"></translation></message>
-<message><source>Result of removing Scrivel Penmark</source><translation type="unfinished"></translation></message>
-<message><source>Show Log</source><translation type="unfinished"></translation></message>
-<message><source>Installer</source><translation type="unfinished"></translation></message>
-<message><source>Customize…</source><translation type="unfinished"></translation></message>
-<message><source>Install Penmark…</source><translation type="unfinished"></translation></message>
-<message><source>Update Installed Copies…</source><translation type="unfinished"></translation></message>
-<message><source>Microsoft Word integration</source><translation type="unfinished"></translation></message>
-<message><source>Work with your references while you write</source><translation type="unfinished"></translation></message>
-<message><source>Penmark add-in</source><translation type="unfinished"></translation></message>
-<message><source>Penmark for Microsoft Word: citations and bibliographies in your documents</source><translation type="unfinished"></translation></message>
-<message><source>Content categories</source><translation type="unfinished"></translation></message>
-<message><source>Import filters for databases and library catalogues, by subject</source><translation type="unfinished"></translation></message>
-<message><source>Chemistry</source><translation type="unfinished"></translation></message>
-<message><source>Import filters for chemistry</source><translation type="unfinished"></translation></message>
-<message><source>Economics</source><translation type="unfinished"></translation></message>
-<message><source>Import filters for economics</source><translation type="unfinished"></translation></message>
-<message><source>History</source><translation type="unfinished"></translation></message>
-<message><source>Import filters for history</source><translation type="unfinished"></translation></message>
-<message><source>Law</source><translation type="unfinished"></translation></message>
-<message><source>Import filters for law</source><translation type="unfinished"></translation></message>
-<message><source>Medicine</source><translation type="unfinished"></translation></message>
-<message><source>Import filters for medicine</source><translation type="unfinished"></translation></message>
-<message><source>Physics</source><translation type="unfinished"></translation></message>
-<message><source>Import filters for physics</source><translation type="unfinished"></translation></message>
-<message><source>System integration</source><translation type="unfinished"></translation></message>
-<message><source>Scrivel 21 in the rest of your system</source><translation type="unfinished"></translation></message>
-<message><source>Spotlight importer</source><translation type="unfinished"></translation></message>
-<message><source>Spotlight finds the references in your libraries</source><translation type="unfinished"></translation></message>
-<message><source>Services</source><translation type="unfinished"></translation></message>
-<message><source>Scrivel 21 commands in the Services menu of other applications</source><translation type="unfinished"></translation></message>
-<message><source>Browser extension</source><translation type="unfinished"></translation></message>
-<message><source>Tessaron for Google Chrome: collects references from web pages</source><translation type="unfinished"></translation></message>
-<message><source>Not found</source><translation type="unfinished"></translation></message>
-<message><source>Find</source><translation type="unfinished"></translation></message>
-<message><source>Find Previous</source><translation type="unfinished"></translation></message>
-<message><source>Find Next</source><translation type="unfinished"></translation></message>
-<message><source>Close</source><translation type="unfinished"></translation></message>
-<message><source>%@, not selected</source><translation type="unfinished"></translation></message>
-<message><source>%@, not available</source><translation type="unfinished"></translation></message>
-<message><source>%@, selected</source><translation type="unfinished"></translation></message>
-<message><source>%@, partly selected</source><translation type="unfinished"></translation></message>
-<message><source>The text at %@ can’t be read. Download the installer again and start it from there.</source><translation type="unfinished"></translation></message>
-<message><source>Look in:</source><translation type="unfinished"></translation></message>
-<message><source>Folder:</source><translation type="unfinished"></translation></message>
-<message><source>Application:</source><translation type="unfinished"></translation></message>
-<message><source>Choose</source><translation type="unfinished"></translation></message>
+<message><source>Welcome</source><translation>ようこそ</translation></message>
+<message><source>Read Me</source><translation>お読みください</translation></message>
+<message><source>License</source><translation>使用許諾</translation></message>
+<message><source>Customization</source><translation>カスタマイズ</translation></message>
+<message><source>Updating System</source><translation>システムのアップデート</translation></message>
+<message><source>Summary</source><translation>概要</translation></message>
+<message><source>Finding Scrivel</source><translation>Scrivelの検索</translation></message>
+<message><source>Found Scrivel</source><translation>見つかったScrivel</translation></message>
+<message><source>Welcome to Scrivel 21</source><translation>Scrivel 21へようこそ</translation></message>
+<message><source>End User License Agreement</source><translation>エンドユーザ使用許諾契約</translation></message>
+<message><source>Select Components</source><translation>コンポーネントの選択</translation></message>
+<message><source>Thank you for using Scrivel 21</source><translation>Scrivel 21をご利用いただきありがとうございます</translation></message>
+<message><source>Finish</source><translation>完了</translation></message>
+<message><source>Uninstall Scrivel 21</source><translation>Scrivel 21をアンインストール</translation></message>
+<message><source>Welcome to Scrivel 21 Update</source><translation>Scrivel 21アップデートへようこそ</translation></message>
+<message><source>Penmark for Microsoft Word</source><translation>Penmark for Microsoft Word</translation></message>
+<message><source>Scrivel Penmark Configuration</source><translation>Scrivel Penmarkの設定</translation></message>
+<message><source>Welcome to Scrivel Penmark</source><translation>Scrivel Penmarkへようこそ</translation></message>
+<message><source>Continue</source><translation>続ける</translation></message>
+<message><source>Next</source><translation>次へ</translation></message>
+<message><source>Done</source><translation>完了</translation></message>
+<message><source>Exit</source><translation>終了</translation></message>
+<message><source>Retry</source><translation>再試行</translation></message>
+<message><source>Scrivel 21 Installer</source><translation>Scrivel 21インストーラ</translation></message>
+<message><source>Uninstall will remove Scrivel Penmark from your computer.  Are you sure you want to do this?</source><translation>アンインストールすると、Scrivel Penmarkがこのコンピュータから削除されます。続けてもよろしいですか？</translation></message>
+<message><source>Uninstall will remove all external Scrivel components from your computer.  Are you sure you want to do this?</source><translation>アンインストールすると、Scrivelの外部コンポーネントがすべてこのコンピュータから削除されます。続けてもよろしいですか？</translation></message>
+<message><source>Back</source><translation>戻る</translation></message>
+<message><source>%@ Customizer</source><translation>%@カスタマイザ</translation></message>
+<message><source>%@ was removed.</source><translation>「%@」を削除しました。</translation></message>
+<message><source>%@ could not be removed.</source><translation>「%@」を削除できませんでした。</translation></message>
+<message><source>%@ was installed.</source><translation>「%@」をインストールしました。</translation></message>
+<message><source>%@ could not be installed.</source><translation>「%@」をインストールできませんでした。</translation></message>
+<message><source>The text “%@” is missing from this copy of the installer. Get a complete copy to read it.</source><translation>このインストーラには文書「%@」が含まれていません。お読みになるには、完全なインストーラを入手してください。</translation></message>
+<message><source>Help</source><translation>ヘルプ</translation></message>
+<message><source>Install Log</source><translation>インストールログ</translation></message>
+<message><source>The install log is empty.</source><translation>インストールログは空です。</translation></message>
+<message><source>Nothing was changed.</source><translation>何も変更されませんでした。</translation></message>
+<message><source>Steps</source><translation>手順</translation></message>
+<message><source>Looking at what is installed on this computer…</source><translation>このコンピュータにインストールされているものを確認中…</translation></message>
+<message><source>Search progress</source><translation>検索の進行状況</translation></message>
+<message><source>This can take a moment.</source><translation>しばらく時間がかかることがあります。</translation></message>
+<message><source>Please read the license agreement. To continue, you need to agree to it.</source><translation>使用許諾契約をお読みください。続けるには、契約に同意する必要があります。</translation></message>
+<message><source>License agreement</source><translation>使用許諾契約</translation></message>
+<message><source>Answer to the license agreement</source><translation>使用許諾契約への回答</translation></message>
+<message><source>Agree</source><translation>同意する</translation></message>
+<message><source>Disagree</source><translation>同意しない</translation></message>
+<message><source>Select the components that you want to use. Cleared components are removed.</source><translation>使用するコンポーネントを選択してください。選択を解除したコンポーネントは削除されます。</translation></message>
+<message><source>Components</source><translation>コンポーネント</translation></message>
+<message><source>Component</source><translation>コンポーネント</translation></message>
+<message><source>Installed</source><translation>インストール済み</translation></message>
+<message><source>Description</source><translation>説明</translation></message>
+<message><source>Uninstall…</source><translation>アンインストール…</translation></message>
+<message><source>Removes all components from this computer</source><translation>このコンピュータからすべてのコンポーネントを削除します</translation></message>
+<message><source>This is the result of the installation. The log holds every step.</source><translation>インストールの結果は次のとおりです。すべての手順はログに記録されています。</translation></message>
+<message><source>Result of the installation</source><translation>インストールの結果</translation></message>
+<message><source>This is the result for the components that you selected. The log holds every step.</source><translation>選択したコンポーネントの結果は次のとおりです。すべての手順はログに記録されています。</translation></message>
+<message><source>Result of the change</source><translation>変更の結果</translation></message>
+<message><source>All components of Scrivel 21 outside its own folder will be removed from this computer: the Penmark add-in for Microsoft Word, the Spotlight importer, the Services and the browser extension.</source><translation>Scrivel 21のフォルダの外にあるコンポーネント（Microsoft Word用のPenmarkアドイン、Spotlightインポータ、サービス、ブラウザ機能拡張）が、すべてこのコンピュータから削除されます。</translation></message>
+<message><source>Your libraries and documents stay where they are.</source><translation>お使いのライブラリと書類は現在の場所に残ります。</translation></message>
+<message><source>Update progress</source><translation>アップデートの進行状況</translation></message>
+<message><source>Please leave the computer switched on and do not quit the installer until this is finished.</source><translation>完了するまで、コンピュータの電源を切ったり、インストーラを終了したりしないでください。</translation></message>
+<message><source>This is the result of the uninstallation. The log holds every step.</source><translation>アンインストールの結果は次のとおりです。すべての手順はログに記録されています。</translation></message>
+<message><source>Result of the uninstallation</source><translation>アンインストールの結果</translation></message>
+<message><source>Quit Microsoft Word, then click Retry.</source><translation>Microsoft Wordを終了してから、［再試行］をクリックしてください。</translation></message>
+<message><source>Microsoft Word is open. Its add-ins can only be changed while it is closed. Save your documents in Word before you quit it.</source><translation>Microsoft Wordが開いています。アドインを変更できるのは、Wordが終了しているときだけです。Wordを終了する前に、Wordの書類を保存してください。</translation></message>
+<message><source>Spotlight and Services</source><translation>Spotlightとサービス</translation></message>
+<message><source>Choose who can use the components that you have just selected.</source><translation>選択したコンポーネントを使用できるユーザを選択してください。</translation></message>
+<message><source>Spotlight: find your Scrivel documents with the search of the system</source><translation>Spotlight：システムの検索機能でScrivelの書類を見つけます</translation></message>
+<message><source>Who can use the Spotlight importer</source><translation>Spotlightインポータを使用できるユーザ</translation></message>
+<message><source>Only for me</source><translation>自分のみ</translation></message>
+<message><source>Goes into the Library folder of your home folder.</source><translation>ホームフォルダ内の「ライブラリ」フォルダにインストールされます。</translation></message>
+<message><source>For all users of this computer</source><translation>このコンピュータのすべてのユーザ</translation></message>
+<message><source>Goes into the computer’s Library folder. An administrator password may be asked for.</source><translation>コンピュータの「ライブラリ」フォルダにインストールされます。管理者のパスワードを求められることがあります。</translation></message>
+<message><source>Services: use Scrivel from the Services menu of other applications</source><translation>サービス：ほかのアプリケーションの「サービス」メニューからScrivelを使用します</translation></message>
+<message><source>Who can use the Services</source><translation>サービスを使用できるユーザ</translation></message>
+<message><source>This is the result of the update, copy by copy. The log holds every step.</source><translation>コピーごとのアップデートの結果は次のとおりです。すべての手順はログに記録されています。</translation></message>
+<message><source>Result of the update</source><translation>アップデートの結果</translation></message>
+<message><source>There is no copy of Scrivel 21 that this update fits.</source><translation>このアップデートを適用できるScrivel 21のコピーはありません。</translation></message>
+<message><source>Nothing was changed on this computer. A copy that is already up to date, or that was altered, is not offered; the log names every copy that was looked at.</source><translation>このコンピュータでは何も変更されませんでした。すでに最新のコピーや、改変されたコピーは表示されません。確認したすべてのコピーはログに記録されています。</translation></message>
+<message><source>The add-in goes into the startup folder of each copy and is loaded when Word is opened the next time.</source><translation>アドインは各コピーのスタートアップフォルダにインストールされ、次にWordを開いたときに読み込まれます。</translation></message>
+<message><source>These are the copies of Microsoft Word that get the Penmark add-in. Add a copy that is missing, or change the startup folder of one.</source><translation>PenmarkアドインをインストールするMicrosoft Wordのコピーは次のとおりです。不足しているコピーを追加したり、コピーのスタートアップフォルダを変更したりできます。</translation></message>
+<message><source>Copies of Microsoft Word</source><translation>Microsoft Wordのコピー</translation></message>
+<message><source>Word</source><translation>Word</translation></message>
+<message><source>Startup Folder</source><translation>スタートアップフォルダ</translation></message>
+<message><source>Version</source><translation>バージョン</translation></message>
+<message><source>Adds a copy of Word and its startup folder</source><translation>Wordのコピーとそのスタートアップフォルダを追加します</translation></message>
+<message><source>Add</source><translation>追加</translation></message>
+<message><source>Removes the add-in from the selected folder and forgets the folder</source><translation>選択したフォルダからアドインを削除し、フォルダの登録を解除します</translation></message>
+<message><source>Remove</source><translation>削除</translation></message>
+<message><source>Change…</source><translation>変更…</translation></message>
+<message><source>Chooses another startup folder for the selected copy</source><translation>選択したコピーに別のスタートアップフォルダを選択します</translation></message>
+<message><source>Reset</source><translation>リセット</translation></message>
+<message><source>Forgets the folder that you chose for the selected copy</source><translation>選択したコピーに指定したフォルダを取り消します</translation></message>
+<message><source>Penmark is the add-in of Scrivel for Microsoft Word. While you write, it inserts citations from your library and builds the bibliography in the style that you choose.</source><translation>Penmarkは、Microsoft Word用のScrivelアドインです。文章を書きながら、ライブラリから引用を挿入し、選択したスタイルで参考文献リストを作成します。</translation></message>
+<message><source>What to do with Penmark</source><translation>Penmarkに対する操作</translation></message>
+<message><source>Install Penmark</source><translation>Penmarkをインストール</translation></message>
+<message><source>Puts the add-in into the startup folder of every copy of Word on this computer.</source><translation>このコンピュータにあるすべてのWordのスタートアップフォルダにアドインをインストールします。</translation></message>
+<message><source>Uninstall Penmark</source><translation>Penmarkをアンインストール</translation></message>
+<message><source>Removes the add-in from Word. Your documents and their citations stay as they are.</source><translation>Wordからアドインを削除します。書類とその中の引用はそのまま残ります。</translation></message>
+<message><source>Quit Microsoft Word before you continue.</source><translation>続ける前にMicrosoft Wordを終了してください。</translation></message>
+<message><source>This is the result for Scrivel Penmark. The log holds every step.</source><translation>Scrivel Penmarkの結果は次のとおりです。すべての手順はログに記録されています。</translation></message>
+<message><source>Result for Scrivel Penmark</source><translation>Scrivel Penmarkの結果</translation></message>
+<message><source>This is the result of removing Scrivel Penmark. The log holds every step.</source><translation>Scrivel Penmarkの削除の結果は次のとおりです。すべての手順はログに記録されています。</translation></message>
+<message><source>Result of removing Scrivel Penmark</source><translation>Scrivel Penmarkの削除の結果</translation></message>
+<message><source>Show Log</source><translation>ログを表示</translation></message>
+<message><source>Installer</source><translation>インストーラ</translation></message>
+<message><source>Customize…</source><translation>カスタマイズ…</translation></message>
+<message><source>Install Penmark…</source><translation>Penmarkをインストール…</translation></message>
+<message><source>Update Installed Copies…</source><translation>インストール済みのコピーをアップデート…</translation></message>
+<message><source>Microsoft Word integration</source><translation>Microsoft Wordとの連携</translation></message>
+<message><source>Work with your references while you write</source><translation>文章を書きながら文献を利用できます</translation></message>
+<message><source>Penmark add-in</source><translation>Penmarkアドイン</translation></message>
+<message><source>Penmark for Microsoft Word: citations and bibliographies in your documents</source><translation>Penmark for Microsoft Word：書類に引用と参考文献リストを追加します</translation></message>
+<message><source>Content categories</source><translation>コンテンツカテゴリ</translation></message>
+<message><source>Import filters for databases and library catalogues, by subject</source><translation>データベースや図書館目録用の読み込みフィルタ（分野別）</translation></message>
+<message><source>Chemistry</source><translation>化学</translation></message>
+<message><source>Import filters for chemistry</source><translation>化学用の読み込みフィルタ</translation></message>
+<message><source>Economics</source><translation>経済学</translation></message>
+<message><source>Import filters for economics</source><translation>経済学用の読み込みフィルタ</translation></message>
+<message><source>History</source><translation>歴史学</translation></message>
+<message><source>Import filters for history</source><translation>歴史学用の読み込みフィルタ</translation></message>
+<message><source>Law</source><translation>法学</translation></message>
+<message><source>Import filters for law</source><translation>法学用の読み込みフィルタ</translation></message>
+<message><source>Medicine</source><translation>医学</translation></message>
+<message><source>Import filters for medicine</source><translation>医学用の読み込みフィルタ</translation></message>
+<message><source>Physics</source><translation>物理学</translation></message>
+<message><source>Import filters for physics</source><translation>物理学用の読み込みフィルタ</translation></message>
+<message><source>System integration</source><translation>システムとの連携</translation></message>
+<message><source>Scrivel 21 in the rest of your system</source><translation>システム全体でScrivel 21を利用できます</translation></message>
+<message><source>Spotlight importer</source><translation>Spotlightインポータ</translation></message>
+<message><source>Spotlight finds the references in your libraries</source><translation>Spotlightでライブラリ内の文献を検索できます</translation></message>
+<message><source>Services</source><translation>サービス</translation></message>
+<message><source>Scrivel 21 commands in the Services menu of other applications</source><translation>ほかのアプリケーションの「サービス」メニューにScrivel 21のコマンドを追加します</translation></message>
+<message><source>Browser extension</source><translation>ブラウザ機能拡張</translation></message>
+<message><source>Tessaron for Google Chrome: collects references from web pages</source><translation>Tessaron for Google Chrome：Webページから文献を収集します</translation></message>
+<message><source>Not found</source><translation>見つかりません</translation></message>
+<message><source>Find</source><translation>検索</translation></message>
+<message><source>Find Previous</source><translation>前を検索</translation></message>
+<message><source>Find Next</source><translation>次を検索</translation></message>
+<message><source>Close</source><translation>閉じる</translation></message>
+<message><source>%@, not selected</source><translation>%@、選択されていません</translation></message>
+<message><source>%@, not available</source><translation>%@、利用できません</translation></message>
+<message><source>%@, selected</source><translation>%@、選択されています</translation></message>
+<message><source>%@, partly selected</source><translation>%@、一部が選択されています</translation></message>
+<message><source>The text at %@ can’t be read. Download the installer again and start it from there.</source><translation>文書（%@）を読み込めません。インストーラをもう一度ダウンロードし、ダウンロードしたインストーラを起動してください。</translation></message>
+<message><source>Look in:</source><translation>場所：</translation></message>
+<message><source>Folder:</source><translation>フォルダ：</translation></message>
+<message><source>Application:</source><translation>アプリケーション：</translation></message>
+<message><source>Choose</source><translation>選択</translation></message>
 </context>
 </TS>
