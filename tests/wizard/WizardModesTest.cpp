@@ -318,6 +318,37 @@ TEST_F(WizardModesTest, TheQuestionIsAskedInTheUsersLanguage) {
     EXPECT_THAT(questions.at(0).buttons, ElementsAre("Nein", "Ja"));
 }
 
+TEST_F(WizardModesTest, AQuestionThatHangsWhenTheProgramEndsUninstallsNothing) {
+    EXPECT_EQ(show(36, {[this] {
+                            controller.matSVWInstall.press(1);
+                            controller.nextBtn.press();
+                        },
+                        [this] { host.modalLoop.terminate(); }}),
+              0);
+    EXPECT_FALSE(controller.m_bUninstall);
+    EXPECT_EQ(controller.state(), 1);
+    EXPECT_FALSE(controller.window.isVisible());
+    EXPECT_FALSE(isAsked());
+}
+
+TEST_F(WizardModesTest, AQuestionThatCanNotBeShownUninstallsNothing) {
+    host.interfaceFiles.missing.insert("ecPanel");
+    show(35, {uninstall(), cancel()});
+    EXPECT_FALSE(controller.m_bUninstall);
+    EXPECT_EQ(host.systemLog.lines, Lines{"Load of ecPanal.NIB failed"});
+    EXPECT_THAT(questions, IsEmpty());
+    EXPECT_EQ(looks.back(), "6 Select Components: (Back) Next Cancel");
+}
+
+TEST_F(WizardModesTest, ClosingTheQuestionIsANo) {
+    show(35,
+         {uninstall(),
+          [this] { host.interfaceFiles.interfaces.find("ecPanel")->second->window.performClose(); },
+          cancel()});
+    EXPECT_EQ(questions.at(0).answer, "No");
+    EXPECT_FALSE(controller.m_bUninstall);
+}
+
 // --- The patcher
 
 TEST_F(WizardModesTest, ThePatcherFindsNothingAndEndsTheProgram) {
@@ -487,7 +518,8 @@ TEST_F(WizardModesTest, ARunningWordDoesNotKeepTheWindowOfAFinishedRunOpen) {
                         },
                         closeWindow()}),
               129);
-    EXPECT_THAT(looks.back(), "12 Thank you for using Scrivel 21: (Back) Retry (Cancel)");
+    EXPECT_EQ(looks.back(), "12 Thank you for using Scrivel 21: (Back) Retry (Cancel)");
+    EXPECT_EQ(controller.ecTabView.selected(), 7) << "not the page that asks to quit Word";
     tests::WizardStage other;
     EXPECT_EQ(other.show(34, {other.next(), other.next(),
                               [&] {
