@@ -1,8 +1,10 @@
 #include "app/Adapters.h"
 
 #include "app/SystemParts.h"
+#include "app/WindowFrontEnd.h"
 #include "cp/private/SystemFolders.h"
 #include "platform/posix/DecidedAdministrator.h"
+#include "platform/posix/EnglishTexts.h"
 
 namespace app {
 
@@ -25,6 +27,9 @@ class NoLaunches final : public ports::Applications {
   public:
     explicit NoLaunches(std::unique_ptr<ports::Applications> inner) : m_inner(std::move(inner)) {}
     bool isRunning(std::string_view identifier) override { return m_inner->isRunning(identifier); }
+    std::vector<std::string> pathsFor(std::string_view identifier) override {
+        return m_inner->pathsFor(identifier);
+    }
     bool launch(const std::string&) override { return true; }
 
   private:
@@ -35,8 +40,8 @@ class NoLaunches final : public ports::Applications {
 
 Adapters::Adapters(const CommandLine& options, std::optional<bool> authorize)
     : places(placesOf(options)), bundles(ownExecutable()),
-      texts({.resourceFolder = bundles.mainResourceFolder(),
-             .languages = options.unattended ? std::vector<std::string>{} : preferredLanguages()}),
+      texts(options.unattended ? std::make_unique<posix::EnglishTexts>(bundles.mainResourceFolder())
+                               : makeTexts(bundles.mainResourceFolder(), preferredLanguages())),
       events(clock, mainQueue), spawnedTools({.ownToolsFolder = folderOf(bundles.mainExecutable()),
                                               .progress =
                                                   [this](const ports::ToolProgress& progress) {

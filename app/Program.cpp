@@ -39,7 +39,7 @@ Program::Program(const CommandLine& options, AnswersFile answers, int& argc, cha
              .finderFiles = *m_adapters.finderFiles,
              .bundles = m_adapters.bundles,
              .propertyLists = m_adapters.propertyLists,
-             .texts = m_adapters.texts,
+             .texts = *m_adapters.texts,
              .mainQueue = m_adapters.mainQueue,
              .backgroundQueue = m_adapters.backgroundQueue,
              .interfaceFiles = m_frontEnd.interfaceFiles,
@@ -87,7 +87,7 @@ std::unique_ptr<WindowFrontEnd> Program::window(int& argc, char** argv) {
     return makeWindowFrontEnd({.argc = argc,
                                .argv = argv,
                                .resourceFolder = m_adapters.bundles.mainResourceFolder(),
-                               .texts = m_adapters.texts,
+                               .texts = *m_adapters.texts,
                                .mainQueueDescriptor = m_adapters.mainQueue.descriptor(),
                                .runPending = [this] { m_adapters.mainQueue.runPending(); }});
 }

@@ -5,6 +5,7 @@
 #include <memory>
 #include <string>
 #include <string_view>
+#include <vector>
 
 #include "platform/ports/FrontEnd.h"
 #include "platform/ports/LocalizedTexts.h"
@@ -37,6 +38,11 @@ inline constexpr std::string_view kNoDisplay =
 
 /// Can this build show a window at all?
 bool hasWindowFrontEnd();
+
+/// The texts that go with the window, in the dearest of the user's languages (as
+/// app::preferredLanguages gives them) that there is a translation for. Made before the front end.
+std::unique_ptr<ports::LocalizedTexts> makeTexts(const std::string& resourceFolder,
+                                                 std::vector<std::string> languages);
 
 /// Null in a build without one. How the window looks and what happens when no display can be opened
 /// is filled in here.

@@ -4,10 +4,12 @@
 #include <iostream>
 #include <optional>
 #include <string_view>
+#include <utility>
 
 #include "app/ExitCode.h"
 #include "app/OptionTable.h"
 #include "ui/AskPassDialog.h"
+#include "ui/TranslatedTexts.h"
 
 namespace app {
 
@@ -39,6 +41,12 @@ class GuiWindow final : public WindowFrontEnd {
 
 bool hasWindowFrontEnd() {
     return true;
+}
+
+std::unique_ptr<ports::LocalizedTexts> makeTexts(const std::string& resourceFolder,
+                                                 std::vector<std::string> languages) {
+    return std::make_unique<ui::TranslatedTexts>(ui::TranslatedTexts::Needs{
+        .resourceFolder = resourceFolder, .languages = std::move(languages)});
 }
 
 std::unique_ptr<WindowFrontEnd> makeWindowFrontEnd(WindowFrontEnd::Needs needs) {

@@ -10,13 +10,13 @@ namespace ui {
 namespace {
 
 struct Appearance {
-    QRgb window, base, alternate, text, secondary, disabled, button, line, accent, light;
+    QRgb window, base, alternate, text, secondary, disabled, button, line, accent, light, outline;
 };
 
-constexpr Appearance kLight{0xfff4f5f7, 0xffffffff, 0xfff7f8fa, 0xff1d1f23, 0xff5c616a,
-                            0xff9a9ea6, 0xffffffff, 0xffc9ccd2, 0xff0071b3, 0xff0a84cc};
-constexpr Appearance kDark{0xff26282c, 0xff1e2023, 0xff24262a, 0xffe6e7ea, 0xffa3a8b1,
-                           0xff7b7f87, 0xff383b41, 0xff4a4e56, 0xff2478bd, 0xff4aa6e8};
+constexpr Appearance kLight{0xfff4f5f7, 0xffffffff, 0xfff7f8fa, 0xff1d1f23, 0xff5c616a, 0xff9a9ea6,
+                            0xffffffff, 0xffc9ccd2, 0xff0071b3, 0xff0a84cc, 0xff858a93};
+constexpr Appearance kDark{0xff26282c, 0xff1e2023, 0xff24262a, 0xffe6e7ea, 0xffa3a8b1, 0xff7b7f87,
+                           0xff383b41, 0xff4a4e56, 0xff2478bd, 0xff4aa6e8, 0xff7b7f87};
 
 // Rest, hover, pressed, border.
 using FaceRow = std::array<QRgb, 4>;
@@ -75,6 +75,10 @@ QPalette paletteFor(bool dark) {
 QColor toQColor(const controls::Colour& colour) {
     return QColor::fromRgbF(static_cast<float>(colour.red), static_cast<float>(colour.green),
                             static_cast<float>(colour.blue), static_cast<float>(colour.alpha));
+}
+
+QColor outline(const QPalette& palette) {
+    return QColor(isDark(palette) ? kDark.outline : kLight.outline);
 }
 
 ButtonFaces buttonFaces(const QPalette& palette, bool isDefault) {

@@ -10,6 +10,8 @@
 namespace ui {
 
 inline constexpr double kLegible = 4.5;
+/// What has no words (boxes, rings, sliders) must stand out by 3 to 1.
+inline constexpr double kVisible = 3;
 
 /// Contrast of two opaque colours, 1 (none) to 21 (black on white), as WCAG 2.1 defines it.
 double contrast(const QColor& one, const QColor& other);
@@ -19,6 +21,9 @@ QColor toQColor(const controls::Colour& colour);
 /// Every role of the appearance. `Highlight` is the accent under white text, `Link` the one that
 /// stands alone (progress), `Mid` the colour of lines, `PlaceholderText` that of secondary text.
 QPalette paletteFor(bool dark);
+
+/// Of what is only an outline: an empty check box, the slider of a scroll bar.
+QColor outline(const QPalette& palette);
 
 /// The faces of a button.
 struct ButtonFaces {

@@ -51,6 +51,23 @@ void ComponentTree::showRows(OutlineModel& model) {
     openAll();
 }
 
+void ComponentTree::openAll() {
+    scheduleDelayedItemsLayout(); // laid out once, not for each group
+    openBelow({});
+}
+
+void ComponentTree::openBelow(const QModelIndex& parent) {
+    // not expandAll: a row without rows below it would count as open, and the arrow that goes to
+    // its group would have to close it first
+    for (int row = 0; row < m_rows->rowCount(parent); ++row) {
+        const QModelIndex group = m_rows->index(row, 0, parent);
+        if (!m_rows->hasChildren(group))
+            continue;
+        expand(group);
+        openBelow(group);
+    }
+}
+
 void ComponentTree::layOutColumns() {
     if (m_laidOut || !m_rows || m_rows->columnCount() == 0)
         return;

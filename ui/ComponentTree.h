@@ -20,7 +20,7 @@ class ComponentTree final : public QTreeView {
     /// Shows these rows, every group open. The model outlives the widget's use of it.
     void showRows(OutlineModel& model);
     /// Opens every group again, after everything is new.
-    void openAll() { expandAll(); }
+    void openAll();
 
   protected:
     /// The space bar ticks the current row's box, whatever the column.
@@ -28,6 +28,7 @@ class ComponentTree final : public QTreeView {
     void showEvent(QShowEvent* event) override;
 
   private:
+    void openBelow(const QModelIndex& parent);
     void layOutColumns();
 
     OutlineModel* m_rows = nullptr;

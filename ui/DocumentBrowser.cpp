@@ -120,6 +120,10 @@ void DocumentBrowser::showAgain() {
                                          "again and start it from there.",
                                          {m_file})
                              : m_file);
+    goToAnchor();
+}
+
+void DocumentBrowser::goToAnchor() {
     if (!m_anchor.isEmpty())
         scrollToAnchor(m_anchor);
 }

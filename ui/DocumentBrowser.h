@@ -29,6 +29,8 @@ class DocumentBrowser final : public QTextBrowser {
     /// already stays where the reader has scrolled it.
     void showFile(const QString& path, const QString& anchor = {});
     void showText(const controls::StyledText& text);
+    /// Scrolls to the anchor again, for a text whose lines had no width yet.
+    void goToAnchor();
 
     /// Opens the bar for finding, or puts the keyboard into it.
     void beginFind();

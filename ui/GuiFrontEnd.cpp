@@ -5,7 +5,10 @@
 #include <QApplication>
 #include <QSocketNotifier>
 
+#include "ui/BusyPump.h"
 #include "ui/DesktopAppearance.h"
+#include "ui/OpenPanels.h"
+#include "ui/ReaderSheet.h"
 #include "ui/SessionLoop.h"
 #include "ui/Sheets.h"
 #include "ui/ThemedApplication.h"
@@ -18,16 +21,6 @@ namespace {
 class ToolkitBeeper final : public ports::Beeper {
   public:
     void beep() override { QApplication::beep(); }
-};
-
-class NoChoosers final : public ports::FileChoosers {
-  public:
-    std::optional<std::string> choose(const ports::Chooser&) override { return std::nullopt; }
-};
-
-class NoReader final : public ports::Reader {
-  public:
-    void read(const ports::ReadingMatter&, controls::Window&) override {}
 };
 
 } // namespace
@@ -43,7 +36,10 @@ struct GuiFrontEnd::Parts {
           files({.resourceFolder = needs.resourceFolder,
                  .texts = needs.texts,
                  .pictures = application.pictures()}),
-          sheets(files), appearance(application.isDark()),
+          sheets(files), loop(files),
+          choosers({.loop = loop, .texts = needs.texts, .typeOf = needs.typeOfFile}),
+          reader({.files = files, .loop = loop, .texts = needs.texts}),
+          appearance(application.isDark()),
           queue(needs.mainQueueDescriptor, QSocketNotifier::Read) {
         QObject::connect(&queue, &QSocketNotifier::activated, &queue,
                          [runPending = needs.runPending] { runPending(); });
@@ -53,10 +49,11 @@ struct GuiFrontEnd::Parts {
     UiFiles files;
     Sheets sheets; // its dialogs hang on those of `files`
     SessionLoop loop;
+    OpenPanels choosers;
+    ReaderSheet reader;
     DesktopAppearance appearance;
-    NoChoosers choosers;
-    NoReader reader;
     ToolkitBeeper beeper;
+    BusyPump busyPump;
     QSocketNotifier queue;
 };
 
@@ -90,6 +87,10 @@ ports::Reader& GuiFrontEnd::reader() {
 
 ports::Beeper& GuiFrontEnd::beeper() {
     return m_parts->beeper;
+}
+
+std::function<void()> GuiFrontEnd::keepAlive() {
+    return [&pump = m_parts->busyPump] { pump.pump(); };
 }
 
 } // namespace ui

@@ -31,6 +31,9 @@ class GuiFrontEnd {
         /// Called when no display can be opened: says so and ends the process. Without it the
         /// toolkit's own message and abort stand.
         std::function<void()> onNoDisplay = nullptr;
+        /// The four-character type of the file at a path, empty for none: what a file chooser goes
+        /// by besides extensions.
+        std::function<std::string(const std::string&)> typeOfFile = nullptr;
     };
     explicit GuiFrontEnd(const Needs& needs);
     ~GuiFrontEnd();
@@ -44,6 +47,11 @@ class GuiFrontEnd {
     ports::FileChoosers& fileChoosers();
     ports::Reader& reader();
     ports::Beeper& beeper();
+
+    /// What to call every 15 ms or so while the main thread waits for a tool, and once more when
+    /// the tool has ended: paints the windows and drops what the user presses. Does nothing on
+    /// other threads. Not longer than the front end lives.
+    std::function<void()> keepAlive();
 
   private:
     struct Parts;

@@ -1,15 +1,23 @@
 #include "ui/SessionLoop.h"
 
+#include <algorithm>
 #include <optional>
 
+#include <QDialog>
 #include <QEventLoop>
+#include <QLabel>
+#include <QWindow>
 
+#include "ui/HangingSheet.h"
+#include "ui/UiFiles.h"
 #include "ui/bind/Binding.h"
 
 namespace ui {
 
 class SessionLoop::OpenSession final : private Binding<controls::Window> {
   public:
+    using Binding::model;
+
     explicit OpenSession(controls::Window& window) : Binding(window) {}
 
     /// Serves what has come, and waits for it where there is nothing.
@@ -42,7 +50,40 @@ class SessionLoop::OpenSession final : private Binding<controls::Window> {
     std::optional<int> m_code;
 };
 
-SessionLoop::SessionLoop() = default;
+/// A window that hangs on another one.
+class SessionLoop::OpenSheet final : private Binding<controls::Window> {
+  public:
+    using Binding::model;
+
+    OpenSheet(controls::Window& sheet, QDialog& dialog, QDialog& parent)
+        : Binding(sheet), m_hanging({.dialog = dialog, .window = parent, .windowGone = [this] {
+                                         if (model())
+                                             model()->orderOut();
+                                     }}) {}
+    ~OpenSheet() override { m_hanging.takeOff(); }
+
+  private:
+    void mirror(const controls::Window&) override {}
+    void drawNow() override {}
+
+    HangingSheet m_hanging;
+};
+
+namespace {
+
+/// What a reader of the screen says of a sheet beside its title.
+QString wordsOf(const QDialog& dialog) {
+    QStringList words;
+    for (const QLabel* label : dialog.findChildren<QLabel*>())
+        if (label->isVisibleTo(&dialog) && label->textFormat() != Qt::RichText &&
+            !label->text().isEmpty())
+            words << label->text();
+    return words.join('\n');
+}
+
+} // namespace
+
+SessionLoop::SessionLoop(const UiFiles& files) : m_files(files) {}
 
 SessionLoop::~SessionLoop() = default;
 
@@ -60,6 +101,16 @@ void SessionLoop::stopModalWithCode(int code) {
 }
 
 ports::ModalLoop::Session SessionLoop::beginModalSession(controls::Window& window) {
+    QDialog* dialog = m_files.dialogOf(window);
+    QDialog* below = nullptr;
+    if (!m_sessions.empty() && m_sessions.back()->model())
+        below = m_files.dialogOf(*m_sessions.back()->model());
+    if (dialog && below && dialog != below && !dialog->parentWidget()) {
+        // so that a desktop keeps it above the window that waits
+        dialog->winId();
+        below->winId();
+        dialog->windowHandle()->setTransientParent(below->windowHandle());
+    }
     window.orderFront();
     m_sessions.push_back(std::make_unique<OpenSession>(window));
     if (m_terminated)
@@ -75,18 +126,45 @@ void SessionLoop::endModalSession(Session session) {
     m_sessions.resize(session);
 }
 
-void SessionLoop::beginSheet(controls::Window& sheet, controls::Window&) {
+void SessionLoop::beginSheet(controls::Window& sheet, controls::Window& parent) {
+    QDialog* dialog = m_files.dialogOf(sheet);
+    QDialog* parentDialog = m_files.dialogOf(parent);
+    if (dialog && parentDialog && dialog != parentDialog && parentDialog->isVisible()) {
+        dialog->setAccessibleName(dialog->windowTitle());
+        dialog->setAccessibleDescription(wordsOf(*dialog));
+        m_sheets.push_back(std::make_unique<OpenSheet>(sheet, *dialog, *parentDialog));
+        if (sheet.isVisible())
+            dialog->show(); // it was in sight as a window of its own
+    }
     sheet.orderFront();
 }
 
 void SessionLoop::endSheet(controls::Window& sheet) {
+    const auto isIt = [&](const auto& open) { return open->model() == &sheet; };
+    if (std::ranges::none_of(m_sheets, isIt))
+        return;
     sheet.orderOut();
+    std::erase_if(m_sheets, [&](const auto& open) { return !open->model() || isIt(open); });
 }
 
 void SessionLoop::terminate() {
     m_terminated = true;
     for (const auto& session : m_sessions)
         session->stop(kAborted);
+    for (QDialog* dialog : std::vector(m_dialogs))
+        dialog->reject();
+}
+
+void SessionLoop::runDialog(QDialog& dialog) {
+    if (m_terminated)
+        return;
+    QEventLoop loop;
+    QObject::connect(&dialog, &QDialog::finished, &loop, &QEventLoop::quit);
+    m_dialogs.push_back(&dialog);
+    dialog.show();
+    if (dialog.isVisible())
+        loop.exec();
+    std::erase(m_dialogs, &dialog);
 }
 
 } // namespace ui

@@ -6,12 +6,11 @@
 #include <QBoxLayout>
 #include <QCloseEvent>
 #include <QLabel>
-#include <QPainter>
 #include <QPushButton>
 #include <QRegularExpression>
-#include <QScreen>
 
 #include "ui/AlertIcon.h"
+#include "ui/HangingSheet.h"
 #include "ui/Keys.h"
 #include "ui/Theme.h"
 
@@ -23,38 +22,6 @@ constexpr int kMargin = 24;
 constexpr int kSignSize = 52;
 constexpr int kTextWidth = 440; // the sheet covers the picture and the words below it whole
 constexpr int kGap = 8;
-
-/// Lies over the window's content while a sheet hangs there, and takes the sheet's shadow.
-class Shade final : public QWidget {
-  public:
-    Shade(QWidget& window, const QRect& sheet) : QWidget(&window), m_sheet(sheet) {
-        setGeometry(window.rect());
-        show();
-        raise();
-    }
-
-  protected:
-    void paintEvent(QPaintEvent*) override {
-        QPainter painter(this);
-        painter.setRenderHint(QPainter::Antialiasing);
-        painter.fillRect(rect(), QColor(0, 0, 0, kShade));
-        painter.setPen(Qt::NoPen);
-        painter.setBrush(QColor(0, 0, 0, kShadow));
-        for (int reach = kShadowReach; reach > 0; reach -= 2)
-            painter.drawRoundedRect(QRect(m_sheet.left() - reach, -kShadowReach,
-                                          m_sheet.width() + 2 * reach,
-                                          m_sheet.height() + kShadowReach + kShadowDrop + reach),
-                                    reach + 2, reach + 2);
-    }
-
-  private:
-    static constexpr int kShade = 72; // opacity, of 255
-    static constexpr int kShadow = 7;
-    static constexpr int kShadowReach = 18;
-    static constexpr int kShadowDrop = 4;
-
-    QRect m_sheet;
-};
 
 /// A line must not break inside a path, as long as the rest of it fits into a line, nor between a
 /// name and its number ("Scrivel 21").
@@ -79,13 +46,14 @@ QLabel* paragraph(const std::string& text, const char* style) {
 
 SheetDialog::SheetDialog(const ports::Alert& alert, QWidget* parent,
                          std::function<void(int)> answered)
-    : QDialog(parent, parent ? Qt::Sheet | Qt::FramelessWindowHint : Qt::Dialog),
-      m_answered(std::move(answered)), m_escapeButton(static_cast<int>(alert.escapeButton.value_or(
-                                           std::max<std::size_t>(alert.buttons.size(), 1) - 1))) {
-    setWindowModality(parent ? Qt::WindowModal : Qt::ApplicationModal);
+    : QDialog(parent, Qt::Dialog), m_answered(std::move(answered)),
+      m_escapeButton(static_cast<int>(
+          alert.escapeButton.value_or(std::max<std::size_t>(alert.buttons.size(), 1) - 1))) {
+    setWindowModality(Qt::ApplicationModal);
     if (parent) {
         setWindowTitle(parent->windowTitle());
-        parent->installEventFilter(this);
+        m_hanging = std::make_unique<HangingSheet>(HangingSheet::Needs{
+            .dialog = *this, .window = *parent, .windowGone = [this] { goUnanswered(); }});
     }
     setAccessibleName(QString::fromStdString(alert.message));
     setAccessibleDescription(QString::fromStdString(alert.informative));
@@ -116,9 +84,7 @@ SheetDialog::SheetDialog(const ports::Alert& alert, QWidget* parent,
     page->addLayout(buttons);
 }
 
-SheetDialog::~SheetDialog() {
-    delete m_shade;
-}
+SheetDialog::~SheetDialog() = default;
 
 void SheetDialog::addButtons(const ports::Alert& alert, QBoxLayout& row) {
     // the default button stands last in the row and comes first with the Tab key
@@ -145,19 +111,13 @@ void SheetDialog::answer(int index) {
     if (!answered)
         return;
     hide();
-    delete m_shade;
     answered(index);
 }
 
-void SheetDialog::showEvent(QShowEvent* event) {
-    adjustSize();
-    if (parentWidget()) {
-        QWidget& window = *parentWidget();
-        const QPoint topLeft((window.width() - width()) / 2, 0);
-        move(window.mapToGlobal(topLeft));
-        m_shade = new Shade(window, QRect(topLeft, size()));
-    }
-    QDialog::showEvent(event);
+void SheetDialog::goUnanswered() {
+    m_answered = nullptr;
+    hide();
+    deleteLater();
 }
 
 void SheetDialog::closeEvent(QCloseEvent* event) {
@@ -165,24 +125,7 @@ void SheetDialog::closeEvent(QCloseEvent* event) {
     reject();
 }
 
-void SheetDialog::paintEvent(QPaintEvent*) {
-    // two grounds rather than a drawn line, which leaves a gap at the edge where the screen is
-    // dense; a sheet comes out from below the title bar and has no line there
-    QPainter painter(this);
-    painter.fillRect(rect(), palette().color(QPalette::Mid));
-    painter.fillRect(rect().adjusted(1, parentWidget() ? 0 : 1, -1, -1),
-                     palette().color(QPalette::Window));
-}
-
 bool SheetDialog::eventFilter(QObject* watched, QEvent* event) {
-    if (watched == parent()) {
-        if (event->type() == QEvent::Hide && !event->spontaneous()) {
-            m_answered = nullptr;
-            hide();
-            deleteLater();
-        }
-        return false;
-    }
     return isHeldReturn(*event) || QDialog::eventFilter(watched, event);
 }
 

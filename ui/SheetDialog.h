@@ -3,15 +3,17 @@
 #pragma once
 
 #include <functional>
+#include <memory>
 
 #include <QDialog>
-#include <QPointer>
 
 #include "platform/ports/FrontEnd.h"
 
 class QBoxLayout;
 
 namespace ui {
+
+class HangingSheet;
 
 class SheetDialog final : public QDialog {
   public:
@@ -28,17 +30,16 @@ class SheetDialog final : public QDialog {
     void reject() override { answer(m_escapeButton); }
 
   protected:
-    void showEvent(QShowEvent* event) override;
     void closeEvent(QCloseEvent* event) override;
-    void paintEvent(QPaintEvent* event) override;
     bool eventFilter(QObject* watched, QEvent* event) override;
 
   private:
     void addButtons(const ports::Alert& alert, QBoxLayout& row);
+    void goUnanswered();
 
     std::function<void(int)> m_answered;
     int m_escapeButton;
-    QPointer<QWidget> m_shade; // a child of the window, which may die first
+    std::unique_ptr<HangingSheet> m_hanging; // none without a window
 };
 
 } // namespace ui

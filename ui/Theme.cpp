@@ -1,12 +1,17 @@
 #include "ui/Theme.h"
 
+#include <QAbstractScrollArea>
 #include <QApplication>
+#include <QDialogButtonBox>
 #include <QFontDatabase>
+#include <QLineEdit>
 #include <QPainter>
 #include <QPushButton>
 #include <QStyleOptionButton>
 
 #include "ui/Colours.h"
+#include "ui/Indicators.h"
+#include "ui/StandardIcons.h"
 
 namespace ui {
 
@@ -15,6 +20,7 @@ namespace {
 constexpr qreal kRadius = 6;
 constexpr int kButtonHeight = 32;
 constexpr int kButtonWidth = 96;
+constexpr int kRowHeight = 26;
 
 struct Look {
     const char* name = nullptr;
@@ -75,6 +81,27 @@ void drawButtonFace(const QStyleOption* option, QPainter* painter, const QWidget
     painter->restore();
 }
 
+void drawField(const QStyleOption* option, QPainter* painter, const QWidget* widget) {
+    painter->save();
+    painter->setRenderHint(QPainter::Antialiasing);
+    painter->setPen(Qt::NoPen);
+    painter->setBrush(option->palette.color(QPalette::Base));
+    painter->drawRoundedRect(QRectF(option->rect), kRadius - 1, kRadius - 1);
+    painter->restore();
+    const auto* frame = qstyleoption_cast<const QStyleOptionFrame*>(option);
+    if (frame && frame->lineWidth > 0)
+        QApplication::style()->drawPrimitive(QStyle::PE_FrameLineEdit, option, painter, widget);
+}
+
+/// Flat, with a line below that stands for the whole header.
+void drawHeaderGround(const QStyleOption* option, QPainter* painter) {
+    painter->save();
+    painter->fillRect(option->rect, option->palette.color(QPalette::AlternateBase));
+    painter->setPen(option->palette.color(QPalette::Mid));
+    painter->drawLine(option->rect.bottomLeft(), option->rect.bottomRight());
+    painter->restore();
+}
+
 } // namespace
 
 Theme::Theme() : QProxyStyle("fusion") {}
@@ -115,6 +142,24 @@ int Theme::pixelMetric(PixelMetric metric, const QStyleOption* option,
     case PM_ButtonShiftHorizontal:
     case PM_ButtonShiftVertical:
         return 0;
+    case PM_IndicatorWidth:
+    case PM_IndicatorHeight:
+    case PM_ExclusiveIndicatorWidth:
+    case PM_ExclusiveIndicatorHeight:
+        return kIndicatorSize;
+    case PM_CheckBoxLabelSpacing:
+    case PM_RadioButtonLabelSpacing:
+    case PM_HeaderMargin:
+        return 8;
+    case PM_DefaultFrameWidth:
+        return qobject_cast<const QAbstractScrollArea*>(widget) ||
+                       qobject_cast<const QLineEdit*>(widget)
+                   ? kFrameWidth
+                   : QProxyStyle::pixelMetric(metric, option, widget);
+    case PM_ScrollBarExtent:
+        return kScrollBarExtent;
+    case PM_FocusFrameHMargin:
+        return 5; // in lists: between the cell's edge and its text
     default:
         return QProxyStyle::pixelMetric(metric, option, widget);
     }
@@ -126,6 +171,11 @@ int Theme::styleHint(StyleHint hint, const QStyleOption* option, const QWidget* 
     case SH_UnderlineShortcut:
     case SH_DialogButtonBox_ButtonsHaveIcons:
         return 0;
+    case SH_DialogButtonLayout:
+        return QDialogButtonBox::MacLayout; // the same order on every desktop
+    case SH_ItemView_ArrowKeysNavigateIntoChildren:
+    case SH_ItemView_ShowDecorationSelected:
+        return 1; // arrows go to a row's parent; a selected row is marked from edge to edge
     default:
         return QProxyStyle::styleHint(hint, option, widget, answer);
     }
@@ -138,6 +188,12 @@ QSize Theme::sizeFromContents(ContentsType type, const QStyleOption* option, con
         return plain.expandedTo({plain.width() + 20, kButtonHeight}).expandedTo({kButtonWidth, 0});
     if (type == CT_LineEdit)
         return plain.expandedTo({0, kButtonHeight});
+    if (type == CT_ItemViewItem)
+        return plain.expandedTo({0, kRowHeight});
+    if (type == CT_HeaderSection)
+        return plain.expandedTo({0, kRowHeight + 2});
+    if (type == CT_MenuItem || type == CT_MenuBarItem)
+        return plain + QSize(4, 6);
     return plain;
 }
 
@@ -145,9 +201,82 @@ void Theme::drawPrimitive(PrimitiveElement element, const QStyleOption* option, 
                           const QWidget* widget) const {
     if (element == PE_PanelButtonCommand)
         return drawButtonFace(option, painter, widget);
-    if (element == PE_FrameFocusRect && qobject_cast<const QPushButton*>(widget))
-        return; // the face has its own ring
-    QProxyStyle::drawPrimitive(element, option, painter, widget);
+    switch (element) {
+    case PE_IndicatorCheckBox:
+    case PE_IndicatorItemViewItemCheck:
+        return drawIndicator(Indicator::checkBox, *option, *painter);
+    case PE_IndicatorRadioButton:
+        return drawIndicator(Indicator::radioButton, *option, *painter);
+    case PE_Frame:
+    case PE_FrameLineEdit:
+        return drawFrame(*option, *painter);
+    case PE_IndicatorBranch:
+        return drawBranch(*option, *painter);
+    case PE_PanelLineEdit:
+        return drawField(option, painter, widget);
+    case PE_FrameFocusRect:
+        if (qobject_cast<const QPushButton*>(widget))
+            return; // the face has its own ring
+        if (const auto* ring = qstyleoption_cast<const QStyleOptionFocusRect*>(option))
+            return drawFocusRing(*ring, *painter);
+        return;
+    default:
+        return QProxyStyle::drawPrimitive(element, option, painter, widget);
+    }
+}
+
+QRect Theme::subElementRect(SubElement element, const QStyleOption* option,
+                            const QWidget* widget) const {
+    const QRect plain = QProxyStyle::subElementRect(element, option, widget);
+    const auto* item = qstyleoption_cast<const QStyleOptionViewItem*>(option);
+    if (element != SE_ItemViewItemCheckIndicator || !item || !item->text.isEmpty())
+        return plain;
+    // a box that is alone in its cell stands in the middle
+    return alignedRect(option->direction, Qt::AlignCenter, plain.size(), option->rect);
+}
+
+QRect Theme::subControlRect(ComplexControl control, const QStyleOptionComplex* option,
+                            SubControl part, const QWidget* widget) const {
+    const auto* bar = qstyleoption_cast<const QStyleOptionSlider*>(option);
+    if (control != CC_ScrollBar || !bar)
+        return QProxyStyle::subControlRect(control, option, part, widget);
+    const QRect slider = scrollBarSlider(*bar);
+    const bool upright = bar->orientation == Qt::Vertical;
+    QRect rect;
+    switch (part) {
+    case SC_ScrollBarSlider:
+        rect = slider;
+        break;
+    case SC_ScrollBarGroove:
+        rect = bar->rect;
+        break;
+    case SC_ScrollBarSubPage:
+        rect = bar->rect;
+        upright ? rect.setBottom(slider.top() - 1) : rect.setRight(slider.left() - 1);
+        break;
+    case SC_ScrollBarAddPage:
+        rect = bar->rect;
+        upright ? rect.setTop(slider.bottom() + 1) : rect.setLeft(slider.right() + 1);
+        break;
+    default:
+        return {}; // no buttons
+    }
+    return visualRect(bar->direction, bar->rect, rect);
+}
+
+QIcon Theme::standardIcon(StandardPixmap icon, const QStyleOption* option,
+                          const QWidget* widget) const {
+    const QIcon own = standardIconOf(icon, QApplication::palette());
+    return own.isNull() ? QProxyStyle::standardIcon(icon, option, widget) : own;
+}
+
+void Theme::drawComplexControl(ComplexControl control, const QStyleOptionComplex* option,
+                               QPainter* painter, const QWidget* widget) const {
+    const auto* bar = qstyleoption_cast<const QStyleOptionSlider*>(option);
+    if (control == CC_ScrollBar && bar)
+        return drawScrollBar(*bar, subControlRect(control, option, SC_ScrollBarSlider, widget),
+                             *painter);
+    QProxyStyle::drawComplexControl(control, option, painter, widget);
 }
 
 void Theme::drawControl(ControlElement element, const QStyleOption* option, QPainter* painter,
@@ -162,6 +291,8 @@ void Theme::drawControl(ControlElement element, const QStyleOption* option, QPai
             coloured.palette.setColor(QPalette::ButtonText, Qt::white);
         return QProxyStyle::drawControl(element, &coloured, painter, widget);
     }
+    if (element == CE_HeaderSection || element == CE_HeaderEmptyArea)
+        return drawHeaderGround(option, painter);
     QProxyStyle::drawControl(element, option, painter, widget);
 }
 

@@ -3,6 +3,7 @@
 #include <algorithm>
 
 #include <QDialog>
+#include <QLabel>
 
 #include "ui/InterfaceLoader.h"
 #include "ui/PictureView.h"
@@ -10,6 +11,23 @@
 #include "ui/bind/WindowBinding.h"
 
 namespace ui {
+
+namespace {
+
+/// Labels stand where their reader begins to read, also those whose words are in a script of the
+/// other direction: a product's name, a path. The toolkit would go by the words.
+void alignLabels(const QDialog& dialog) {
+    if (dialog.layoutDirection() != Qt::RightToLeft)
+        return;
+    for (QLabel* label : dialog.findChildren<QLabel*>()) {
+        const Qt::Alignment across = label->alignment() & Qt::AlignHorizontal_Mask;
+        if (across == Qt::AlignLeft)
+            label->setAlignment((label->alignment() & ~across) | Qt::AlignRight |
+                                Qt::AlignAbsolute);
+    }
+}
+
+} // namespace
 
 /// One interface file with its bindings; they die before the widgets.
 class UiFiles::Loaded {
@@ -34,7 +52,19 @@ class UiFiles::Loaded {
 
 UiFiles::UiFiles(Needs needs) : m_needs(std::move(needs)) {}
 
-UiFiles::~UiFiles() = default;
+UiFiles::~UiFiles() {
+    release([](const Loaded&) { return true; });
+}
+
+template <class Condition>
+void UiFiles::release(Condition goes) {
+    // a sheet is a child of the dialog that it hangs on, but belongs to its own file
+    for (const auto& sheet : m_loaded)
+        for (const auto& loaded : m_loaded)
+            if (goes(*loaded) && sheet->dialog()->parentWidget() == loaded->dialog())
+                sheet->dialog()->setParent(nullptr, Qt::Dialog);
+    std::erase_if(m_loaded, [&](const auto& loaded) { return goes(*loaded); });
+}
 
 bool UiFiles::load(std::string_view name, controls::Interface& outlets) {
     const std::string path = m_needs.resourceFolder + '/' + std::string(name) + ".ui";
@@ -44,11 +74,12 @@ bool UiFiles::load(std::string_view name, controls::Interface& outlets) {
         }))
         return false;
 
+    alignLabels(*dialog);
     for (PictureView* view : dialog->findChildren<PictureView*>())
         if (!outlets.find(view->objectName().toStdString()))
             view->showFrom(m_needs.pictures);
-    std::erase_if(m_loaded, [&](const auto& loaded) {
-        return !loaded->window() || loaded->window() == &outlets.window;
+    release([&](const Loaded& loaded) {
+        return !loaded.window() || loaded.window() == &outlets.window;
     });
     m_loaded.push_back(std::make_unique<Loaded>(
         std::move(dialog), outlets,

@@ -48,6 +48,9 @@ class UiFiles final : public ports::InterfaceFiles {
   private:
     class Loaded;
 
+    template <class Condition>
+    void release(Condition goes);
+
     Needs m_needs;
     std::vector<std::unique_ptr<Loaded>> m_loaded;
 };

@@ -6,6 +6,7 @@
 #include <unistd.h>
 #include <utility>
 
+#include "platform/linux/InstalledBundles.h"
 #include "platform/linux/ProcessBundle.h"
 #include "platform/posix/ChildProcess.h"
 
@@ -31,6 +32,9 @@ bool isProcess(std::string_view name) {
 } // namespace
 
 ProcApplications::ProcApplications(Needs needs) : m_needs(std::move(needs)) {
+    m_applicationFolders.push_back(m_needs.root + "/Applications");
+    if (!m_needs.home.empty() && m_needs.home != m_needs.root && m_needs.home != "/")
+        m_applicationFolders.push_back(m_needs.home + "/Applications");
     if (!m_needs.root.empty())
         m_needs.root = resolved(m_needs.root);
 }
@@ -59,6 +63,15 @@ bool ProcApplications::isRunning(std::string_view bundleIdentifier) {
             return true;
     }
     return false;
+}
+
+std::vector<std::string> ProcApplications::pathsFor(std::string_view bundleIdentifier) {
+    std::vector<std::string> paths;
+    for (const std::string& folder : m_applicationFolders)
+        for (std::string& bundle : installedBundles(folder))
+            if (identifierOf(bundle) == bundleIdentifier)
+                paths.push_back(std::move(bundle));
+    return paths;
 }
 
 bool ProcApplications::launch(const std::string& path) {

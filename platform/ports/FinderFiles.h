@@ -41,6 +41,10 @@ class FinderFiles {
     /// The Finder information of the item at `path`; all zero where none is kept.
     virtual ReadInformation finderInformation(const std::string& path) = 0;
 
+    /// The bytes of the file's resource fork (formats/ResourceFork reads them); empty where it has
+    /// none or it can't be read.
+    virtual std::vector<std::byte> resourceFork(const std::string& path) = 0;
+
     /// A classic alias record (version 2) that leads to `target`; empty when none can be made.
     virtual std::vector<std::byte> aliasRecord(const std::string& target) = 0;
 

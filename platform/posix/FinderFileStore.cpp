@@ -214,6 +214,14 @@ ports::FinderFiles::ReadInformation FinderFileStore::finderInformation(const std
     return {.error = 0, .information = decoded(kept(*real).bytes())};
 }
 
+std::vector<std::byte> FinderFileStore::resourceFork(const std::string& path) {
+    const auto real = resolved(path);
+    if (!real)
+        return {};
+    Kept found = kept(*real);
+    return found.beside ? std::move(found.beside->resourceFork) : Bytes();
+}
+
 std::vector<std::byte> FinderFileStore::aliasRecord(const std::string& target) {
     const auto real = resolved(target);
     struct stat facts{};

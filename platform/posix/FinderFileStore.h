@@ -27,6 +27,9 @@ class FinderFileStore final : public ports::FinderFiles {
     int resolve(const std::string& path) override;
     ReadInformation finderInformation(const std::string& path) override;
 
+    /// From the AppleDouble file.
+    std::vector<std::byte> resourceFork(const std::string& path) override;
+
     /// The volume is the file system that holds the target; its name is the last part of its mount
     /// point, "File System" for "/". File and folder numbers are the low 32 bits of inode numbers.
     std::vector<std::byte> aliasRecord(const std::string& target) override;

@@ -2,6 +2,7 @@
 
 #include <cstdint>
 #include <cstdlib>
+#include <cstring>
 #include <plist/plist.h>
 
 #include "platform/posix/PlistGuard.h"
@@ -26,10 +27,11 @@ plist_t itemOf(plist_t node, std::string_view key) {
     return plist_dict_get_item(node, std::string(key).c_str());
 }
 
-std::optional<std::vector<std::string>> stringsOf(plist_t node) {
+/// Calls `use` with each element of an array.
+template <class Use>
+void forEachElement(plist_t node, Use use) {
     if (!PLIST_IS_ARRAY(node))
-        return std::nullopt;
-    std::vector<std::string> all;
+        return;
     // An iterator, as the library counts through the array for each element that it is asked for.
     plist_array_iter at = nullptr;
     plist_array_new_iter(node, &at);
@@ -38,10 +40,19 @@ std::optional<std::vector<std::string>> stringsOf(plist_t node) {
         plist_array_next_item(node, at, &element);
         if (!element)
             break;
-        if (auto text = stringOf(element))
-            all.push_back(std::move(*text));
+        use(element);
     }
     std::free(at);
+}
+
+std::optional<std::vector<std::string>> stringsOf(plist_t node) {
+    if (!PLIST_IS_ARRAY(node))
+        return std::nullopt;
+    std::vector<std::string> all;
+    forEachElement(node, [&](plist_t element) {
+        if (auto text = stringOf(element))
+            all.push_back(std::move(*text));
+    });
     return all;
 }
 
@@ -63,6 +74,20 @@ void forEachEntry(plist_t node, Use use) {
             use(key, value);
     }
     std::free(at);
+}
+
+/// The library copies a string only up to a zero in it but keeps the old length, and would later
+/// read beyond the copy. Gives such strings of a fresh copy the length that they have.
+void cutAtZeros(plist_t copy) {
+    if (PLIST_IS_STRING(copy)) {
+        std::uint64_t length = 0;
+        const char* text = plist_get_string_ptr(copy, &length);
+        if (text && std::strlen(text) != length)
+            plist_set_string_val(copy, std::string(text).c_str());
+        return;
+    }
+    forEachEntry(copy, [](const char*, plist_t value) { cutAtZeros(value); });
+    forEachElement(copy, [](plist_t element) { cutAtZeros(element); });
 }
 
 } // namespace
@@ -136,7 +161,9 @@ void Plist::setArray(std::string_view key, const std::vector<std::string>& value
 void Plist::addEntriesFrom(const Plist& other) {
     if (isDictionary())
         forEachEntry(other.m_list.get(), [this](const char* key, plist_t value) {
-            plist_dict_set_item(m_list.get(), key, plist_copy(value));
+            plist_t copy = plist_copy(value);
+            cutAtZeros(copy);
+            plist_dict_set_item(m_list.get(), key, copy);
         });
 }
 

@@ -40,7 +40,8 @@ class Plist {
                                                   std::string_view key) const;
 
     /// Each changes the list's dictionary; nothing happens when the list is none. Texts end at a
-    /// zero. A value that is replaced keeps its place; new ones come last.
+    /// zero. A value that is replaced keeps its place; new ones come last. Added strings
+    /// end at a zero too, which a binary list may hold and XML can't.
     void setString(std::string_view key, std::string_view value);
     void setArray(std::string_view key, const std::vector<std::string>& values);
     void addEntriesFrom(const Plist& other);

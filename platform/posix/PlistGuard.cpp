@@ -225,7 +225,9 @@ bool isSafePlist(std::string_view bytes) {
         return false;
     if (bytes.starts_with("bplist00"))
         return BinaryOutline(bytes).isSafe();
-    return !bytes.starts_with("bplist") && XmlOutline(bytes).isSafe();
+    // XML has no zeros; the library takes one in a key or a text for its end, but not its length.
+    return !bytes.starts_with("bplist") && bytes.find('\0') == std::string_view::npos &&
+           XmlOutline(bytes).isSafe();
 }
 
 } // namespace posix

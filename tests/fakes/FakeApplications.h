@@ -1,11 +1,13 @@
 // ports::Applications without processes.
 #pragma once
 
+#include <map>
 #include <set>
 #include <string>
 #include <vector>
 
 #include "platform/ports/Applications.h"
+#include "platform/ports/PlatformError.h"
 
 namespace fakes {
 
@@ -16,6 +18,9 @@ class FakeApplications final : public ports::Applications {
     /// Bundles that can be launched; with `launchesAll` every one.
     std::set<std::string> launchable;
     bool launchesAll = true;
+    /// Installed bundles by their identifiers; with `throwsForPaths` the question fails.
+    std::map<std::string, std::vector<std::string>, std::less<>> installed;
+    bool throwsForPaths = false;
     /// Every identifier that was asked for and every path that was launched, in order.
     std::vector<std::string> asked;
     std::vector<std::string> launched;
@@ -23,6 +28,13 @@ class FakeApplications final : public ports::Applications {
     bool isRunning(std::string_view bundleIdentifier) override {
         asked.emplace_back(bundleIdentifier);
         return running.contains(bundleIdentifier);
+    }
+
+    std::vector<std::string> pathsFor(std::string_view bundleIdentifier) override {
+        if (throwsForPaths)
+            throw ports::PlatformError("no registry");
+        const auto found = installed.find(bundleIdentifier);
+        return found == installed.end() ? std::vector<std::string>() : found->second;
     }
 
     bool launch(const std::string& path) override {

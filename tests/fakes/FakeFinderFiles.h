@@ -16,6 +16,8 @@ class FakeFinderFiles final : public ports::FinderFiles {
     static constexpr int kExists = -48;
 
     std::map<std::string, ports::FinderInformation> items;
+    /// Resource forks by the files that have one.
+    std::map<std::string, std::vector<std::byte>> forks;
     /// The record of each alias file that was made.
     std::map<std::string, std::vector<std::byte>> aliases;
     /// Folder and icon file of each `setFolderIcon`, in order.
@@ -33,6 +35,11 @@ class FakeFinderFiles final : public ports::FinderFiles {
         const auto item = items.find(path);
         const int error = errorOf("finderInformation", item == items.end() ? kNotFound : 0);
         return error == 0 ? ReadInformation{0, item->second} : ReadInformation{error, {}};
+    }
+
+    std::vector<std::byte> resourceFork(const std::string& path) override {
+        const auto fork = forks.find(path);
+        return fork == forks.end() ? std::vector<std::byte>() : fork->second;
     }
 
     std::vector<std::byte> aliasRecord(const std::string& target) override {

@@ -210,6 +210,27 @@ TEST_F(FinderFileStoreTest, QuestionsFollowSymbolicLinksAndChangesDoNot) {
     EXPECT_EQ(folder.names(), (Names{"a", "link"}));
 }
 
+TEST_F(FinderFileStoreTest, AResourceForkIsThatOfTheAppleDoubleFile) {
+    const Bytes fork = formats::writeResourceFork({{fourCharacters("vers"), 1, "", hex("11")}});
+    AppleDouble beside;
+    beside.resourceFork = fork;
+    file("._a", formats::writeAppleDouble(beside));
+    EXPECT_EQ(store.resourceFork(file("a")), fork);
+    std::filesystem::create_symlink("a", folder.path("link"));
+    EXPECT_EQ(store.resourceFork(folder.path("link")), fork);
+}
+
+TEST_F(FinderFileStoreTest, WhereThereIsNoForkItIsEmpty) {
+    EXPECT_EQ(store.resourceFork(file("a")), Bytes());
+    EXPECT_EQ(store.resourceFork(folder.path("none")), Bytes());
+    file("._a", bytesOf("no AppleDouble file"));
+    EXPECT_EQ(store.resourceFork(folder.path("a")), Bytes());
+    AppleDouble beside;
+    beside.resourceFork = hex("00");
+    file("._gone", formats::writeAppleDouble(beside));
+    EXPECT_EQ(store.resourceFork(folder.path("gone")), Bytes());
+}
+
 TEST_F(FinderFileStoreTest, SlashesAtTheEndDoNotBelongToTheName) {
     directory("sub");
     refuseAttributesWith(ENOTSUP);

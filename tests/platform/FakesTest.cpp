@@ -81,6 +81,7 @@ TEST(FakeFinderFiles, ErrorsFollowTheFileManager) {
     EXPECT_EQ(files.createAliasFile("/b", files.aliasRecord("/a")), 0);
     EXPECT_EQ(files.setFinderInformation("/b", {.flags = 0x8000}), 0);
     EXPECT_EQ(files.items["/b"].flags, ports::FinderInformation::kIsAlias);
+    EXPECT_TRUE(files.resourceFork("/a").empty());
     files.errors["resolve"] = -36;
     EXPECT_EQ(files.resolve("/a"), -36);
 }

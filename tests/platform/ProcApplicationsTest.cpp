@@ -278,6 +278,64 @@ TEST_F(LaunchTest, WhatCannotBeStartedIsToldAndNothingElseHappens) {
     EXPECT_TRUE(hasNoChild());
 }
 
+class InstalledTest : public ApplicationsTest {
+  protected:
+    std::string word(const std::string& name) {
+        return bundle(name, {{"CFBundleIdentifier", "com.example.Word"}});
+    }
+    std::vector<std::string> found() { return applications.pathsFor("com.example.Word"); }
+    using Paths = std::vector<std::string>;
+};
+
+TEST_F(InstalledTest, TheMachinesApplicationsComeSortedAndThoseOfTheUserAfterThem) {
+    const std::string users = word("home/Applications/A.app");
+    const std::string b = word("Applications/Office/B.app");
+    const std::string a = word("Applications/Office/A.app");
+    const std::string c = word("Applications/C.app");
+    bundle("Applications/D.app", {{"CFBundleIdentifier", "com.example.word"}});
+    bundle("Applications/E.app", {});
+    word("elsewhere/F.app");
+    EXPECT_EQ(found(), Paths({c, a, b, users}));
+}
+
+TEST_F(InstalledTest, BundlesAreNotLookedInto) {
+    const std::string outer = word("Applications/A.app");
+    word("Applications/A.app/Contents/B.app");
+    word("Applications/C.bundle/D.app");
+    word("Applications/E.app/F.app");
+    EXPECT_EQ(found(), Paths({outer}));
+}
+
+TEST_F(InstalledTest, ALinkToAnApplicationCountsAndALinkToAFolderIsNotFollowed) {
+    const std::string elsewhere = word("elsewhere/A.app");
+    fs::create_directories(folder.path("Applications"));
+    fs::create_directory_symlink(folder.path("elsewhere"), folder.path("Applications/Link"));
+    fs::create_directory_symlink(folder.path("Applications"), folder.path("Applications/Circle"));
+    fs::create_symlink(folder.path("absent"), folder.path("Applications/B.app"));
+    folder.write("Applications/C.app", "a file");
+    EXPECT_EQ(found(), Paths());
+    fs::create_directory_symlink(elsewhere, folder.path("Applications/D.app"));
+    EXPECT_EQ(found(), Paths({folder.path("Applications/D.app")}));
+}
+
+TEST_F(InstalledTest, WithoutFoldersForApplicationsNothingIsFound) {
+    EXPECT_EQ(found(), Paths());
+}
+
+TEST_F(InstalledTest, TheRootStaysSpelledAsItWasGiven) {
+    word("Applications/A.app");
+    fs::create_directory_symlink(folder.path(), folder.path("link"));
+    ProcApplications overALink({.bundles = bundles, .root = folder.path("link"), .home = ""});
+    EXPECT_EQ(overALink.pathsFor("com.example.Word"),
+              Paths({folder.path("link/Applications/A.app")}));
+}
+
+TEST_F(InstalledTest, AFolderThatIsBothTheMachinesAndTheUsersIsSearchedOnce) {
+    const std::string only = word("Applications/A.app");
+    ProcApplications both({.bundles = bundles, .root = folder.path(), .home = folder.path()});
+    EXPECT_EQ(both.pathsFor("com.example.Word"), Paths({only}));
+}
+
 /// The part of the contract that holds without a process: on the real adapter and on the fake.
 struct RealApplications {
     std::string launchable() {
@@ -288,6 +346,12 @@ struct RealApplications {
             .string();
     }
     std::string absent() { return folder.path("absent.app"); }
+    std::string install() {
+        folder.write("Applications/I.app/Contents/Info.plist",
+                     "<plist version=\"1.0\"><dict><key>CFBundleIdentifier</key>"
+                     "<string>com.example.Installed</string></dict></plist>");
+        return folder.path("Applications/I.app");
+    }
     void run() {
         folder.write("R.app/Contents/Info.plist",
                      "<plist version=\"1.0\"><dict><key>CFBundleIdentifier</key>"
@@ -309,6 +373,9 @@ struct PretendedApplications {
     }
     std::string launchable() { return "/X.app"; }
     std::string absent() { return "/absent.app"; }
+    std::string install() {
+        return applications.installed["com.example.Installed"].emplace_back("/I.app");
+    }
     void run() { applications.running.insert("com.example.Run"); }
     fakes::FakeApplications applications;
 };
@@ -327,6 +394,15 @@ TYPED_TEST(ApplicationsContract, OnlyWhatRunsIsRunningAndLetterCaseCounts) {
     this->host.run();
     EXPECT_TRUE(this->applications.isRunning("com.example.Run"));
     EXPECT_FALSE(this->applications.isRunning("com.example.run"));
+}
+
+TYPED_TEST(ApplicationsContract, WhatIsInstalledIsKnownByItsIdentifierAndLetterCaseCounts) {
+    using Paths = std::vector<std::string>;
+    EXPECT_EQ(this->applications.pathsFor("com.example.Installed"), Paths());
+    const std::string path = this->host.install();
+    EXPECT_EQ(this->applications.pathsFor("com.example.Installed"), Paths({path}));
+    EXPECT_EQ(this->applications.pathsFor("com.example.installed"), Paths());
+    EXPECT_EQ(this->applications.pathsFor(""), Paths());
 }
 
 TYPED_TEST(ApplicationsContract, OnlyABundleThatIsThereCanBeLaunched) {

@@ -19,6 +19,8 @@ WindowBinding::WindowBinding(controls::Window& window, QDialog& widget)
             m_default = button;
     for (ProgressBar* bar : widget.findChildren<ProgressBar*>())
         connect(bar, &ProgressBar::runningChanged, this, [this] { busyChanged(); });
+    // the one that came last takes the input; those below it wait until it is gone
+    widget.setWindowModality(Qt::ApplicationModal);
     widget.installEventFilter(this);
     mirror(window);
 }

@@ -1,0 +1,176 @@
+<?xml version="1.0" encoding="utf-8"?>
+<!DOCTYPE TS>
+<TS version="2.1" language="ja" sourcelanguage="en">
+<context><name>Scrivel</name>
+<message><source>Install %@</source><translation>%@をインストール</translation></message>
+<message><source>Extracting %@…</source><translation>%@を展開中…</translation></message>
+<message><source>Installing %@ to the Applications folder…</source><translation>%@を「アプリケーション」フォルダにインストール中…</translation></message>
+<message><source>Launching %@ for the first time…</source><translation>%@を初めて起動中…</translation></message>
+<message><source>Canceling…</source><translation>キャンセル中…</translation></message>
+<message><source>Cancel</source><translation>キャンセル</translation></message>
+<message><source>Unable to retreived required files for %@ installation.</source><translation>%@のインストールに必要なファイルを取得できませんでした。</translation></message>
+<message><source>Please try again later.</source><translation>あとでもう一度お試しください。</translation></message>
+<message><source>OK</source><translation>OK</translation></message>
+<message><source>Scrivel and Microsoft Word cannot be open during %@ installation.</source><translation>%@のインストール中は、ScrivelとMicrosoft Wordを開いておくことはできません。</translation></message>
+<message><source>Please quit Scrivel and Microsoft Word and click the OK button to continue, or click the Quit Installer button to quit this installer.</source><translation>ScrivelとMicrosoft Wordを終了し、［OK］ボタンをクリックして続けてください。このインストーラを終了する場合は、［インストーラを終了］ボタンをクリックしてください。</translation></message>
+<message><source>Quit Installer</source><translation>インストーラを終了</translation></message>
+<message><source>Would you like to overwrite the %@ at /Applications/%@?</source><translation>%@（/Applications/%@）を上書きしますか？</translation></message>
+<message><source>You are about to install %@ version %@, but version %@ is already installed.  This cannot be undone.</source><translation>%@ バージョン%@をインストールしようとしていますが、バージョン%@がすでにインストールされています。この操作は取り消せません。</translation></message>
+<message><source>No</source><translation>いいえ</translation></message>
+<message><source>Yes</source><translation>はい</translation></message>
+<message><source>Ready to install.</source><translation>インストールの準備ができました。</translation></message>
+<message><source>Install</source><translation>インストール</translation></message>
+<message><source>Installation progress</source><translation>インストールの進行状況</translation></message>
+<message><source>Scrivel 21 will be installed in the Applications folder of this computer and opened when it is ready.</source><translation>Scrivel 21をこのコンピュータの「アプリケーション」フォルダにインストールし、準備ができたら開きます。</translation></message>
+<message><source>%@ KB of %@ KB</source><translation>%@ KB / %@ KB</translation></message>
+<message><source>%@ MB of %@ MB</source><translation>%@ MB / %@ MB</translation></message>
+<message><source>%@ GB of %@ GB</source><translation>%@ GB / %@ GB</translation></message>
+<message><source>The installer of %@ needs administrator rights.</source><translation>%@のインストーラには管理者権限が必要です。</translation></message>
+<message><source>Password:</source><translation>パスワード：</translation></message>
+<message><source>Welcome</source><translation type="unfinished"></translation></message>
+<message><source>Read Me</source><translation type="unfinished"></translation></message>
+<message><source>License</source><translation type="unfinished"></translation></message>
+<message><source>Customization</source><translation type="unfinished"></translation></message>
+<message><source>Updating System</source><translation type="unfinished"></translation></message>
+<message><source>Summary</source><translation type="unfinished"></translation></message>
+<message><source>Finding Scrivel</source><translation type="unfinished"></translation></message>
+<message><source>Found Scrivel</source><translation type="unfinished"></translation></message>
+<message><source>Welcome to Scrivel 21</source><translation type="unfinished"></translation></message>
+<message><source>End User License Agreement</source><translation type="unfinished"></translation></message>
+<message><source>Select Components</source><translation type="unfinished"></translation></message>
+<message><source>Thank you for using Scrivel 21</source><translation type="unfinished"></translation></message>
+<message><source>Finish</source><translation type="unfinished"></translation></message>
+<message><source>Uninstall Scrivel 21</source><translation type="unfinished"></translation></message>
+<message><source>Welcome to Scrivel 21 Update</source><translation type="unfinished"></translation></message>
+<message><source>Penmark for Microsoft Word</source><translation type="unfinished"></translation></message>
+<message><source>Scrivel Penmark Configuration</source><translation type="unfinished"></translation></message>
+<message><source>Welcome to Scrivel Penmark</source><translation type="unfinished"></translation></message>
+<message><source>Continue</source><translation type="unfinished"></translation></message>
+<message><source>Next</source><translation type="unfinished"></translation></message>
+<message><source>Done</source><translation type="unfinished"></translation></message>
+<message><source>Exit</source><translation type="unfinished"></translation></message>
+<message><source>Retry</source><translation type="unfinished"></translation></message>
+<message><source>Scrivel 21 Installer</source><translation type="unfinished"></translation></message>
+<message><source>Uninstall will remove Scrivel Penmark from your computer.  Are you sure you want to do this?</source><translation type="unfinished"></translation></message>
+<message><source>Uninstall will remove all external Scrivel components from your computer.  Are you sure you want to do this?</source><translation type="unfinished"></translation></message>
+<message><source>Back</source><translation type="unfinished"></translation></message>
+<message><source>%@ Customizer</source><translation type="unfinished"></translation></message>
+<message><source>%@ was removed.</source><translation type="unfinished"></translation></message>
+<message><source>%@ could not be removed.</source><translation type="unfinished"></translation></message>
+<message><source>%@ was installed.</source><translation type="unfinished"></translation></message>
+<message><source>%@ could not be installed.</source><translation type="unfinished"></translation></message>
+<message><source>The text “%@” is missing from this copy of the installer. Get a complete copy to read it.</source><translation type="unfinished"></translation></message>
+<message><source>Help</source><translation type="unfinished"></translation></message>
+<message><source>Install Log</source><translation type="unfinished"></translation></message>
+<message><source>The install log is empty.</source><translation type="unfinished"></translation></message>
+<message><source>Nothing was changed.</source><translation type="unfinished"></translation></message>
+<message><source>Steps</source><translation type="unfinished"></translation></message>
+<message><source>Looking at what is installed on this computer…</source><translation type="unfinished"></translation></message>
+<message><source>Search progress</source><translation type="unfinished"></translation></message>
+<message><source>This can take a moment.</source><translation type="unfinished"></translation></message>
+<message><source>Please read the license agreement. To continue, you need to agree to it.</source><translation type="unfinished"></translation></message>
+<message><source>License agreement</source><translation type="unfinished"></translation></message>
+<message><source>Answer to the license agreement</source><translation type="unfinished"></translation></message>
+<message><source>Agree</source><translation type="unfinished"></translation></message>
+<message><source>Disagree</source><translation type="unfinished"></translation></message>
+<message><source>Select the components that you want to use. Cleared components are removed.</source><translation type="unfinished"></translation></message>
+<message><source>Components</source><translation type="unfinished"></translation></message>
+<message><source>Component</source><translation type="unfinished"></translation></message>
+<message><source>Installed</source><translation type="unfinished"></translation></message>
+<message><source>Description</source><translation type="unfinished"></translation></message>
+<message><source>Uninstall…</source><translation type="unfinished"></translation></message>
+<message><source>Removes all components from this computer</source><translation type="unfinished"></translation></message>
+<message><source>This is the result of the installation. The log holds every step.</source><translation type="unfinished"></translation></message>
+<message><source>Result of the installation</source><translation type="unfinished"></translation></message>
+<message><source>This is the result for the components that you selected. The log holds every step.</source><translation type="unfinished"></translation></message>
+<message><source>Result of the change</source><translation type="unfinished"></translation></message>
+<message><source>All components of Scrivel 21 outside its own folder will be removed from this computer: the Penmark add-in for Microsoft Word, the Spotlight importer, the Services and the browser extension.</source><translation type="unfinished"></translation></message>
+<message><source>Your libraries and documents stay where they are.</source><translation type="unfinished"></translation></message>
+<message><source>Update progress</source><translation type="unfinished"></translation></message>
+<message><source>Please leave the computer switched on and do not quit the installer until this is finished.</source><translation type="unfinished"></translation></message>
+<message><source>This is the result of the uninstallation. The log holds every step.</source><translation type="unfinished"></translation></message>
+<message><source>Result of the uninstallation</source><translation type="unfinished"></translation></message>
+<message><source>Quit Microsoft Word, then click Retry.</source><translation type="unfinished"></translation></message>
+<message><source>Microsoft Word is open. Its add-ins can only be changed while it is closed. Save your documents in Word before you quit it.</source><translation type="unfinished"></translation></message>
+<message><source>Spotlight and Services</source><translation type="unfinished"></translation></message>
+<message><source>Choose who can use the components that you have just selected.</source><translation type="unfinished"></translation></message>
+<message><source>Spotlight: find your Scrivel documents with the search of the system</source><translation type="unfinished"></translation></message>
+<message><source>Who can use the Spotlight importer</source><translation type="unfinished"></translation></message>
+<message><source>Only for me</source><translation type="unfinished"></translation></message>
+<message><source>Goes into the Library folder of your home folder.</source><translation type="unfinished"></translation></message>
+<message><source>For all users of this computer</source><translation type="unfinished"></translation></message>
+<message><source>Goes into the computer’s Library folder. An administrator password may be asked for.</source><translation type="unfinished"></translation></message>
+<message><source>Services: use Scrivel from the Services menu of other applications</source><translation type="unfinished"></translation></message>
+<message><source>Who can use the Services</source><translation type="unfinished"></translation></message>
+<message><source>This is the result of the update, copy by copy. The log holds every step.</source><translation type="unfinished"></translation></message>
+<message><source>Result of the update</source><translation type="unfinished"></translation></message>
+<message><source>There is no copy of Scrivel 21 that this update fits.</source><translation type="unfinished"></translation></message>
+<message><source>Nothing was changed on this computer. A copy that is already up to date, or that was altered, is not offered; the log names every copy that was looked at.</source><translation type="unfinished"></translation></message>
+<message><source>The add-in goes into the startup folder of each copy and is loaded when Word is opened the next time.</source><translation type="unfinished"></translation></message>
+<message><source>These are the copies of Microsoft Word that get the Penmark add-in. Add a copy that is missing, or change the startup folder of one.</source><translation type="unfinished"></translation></message>
+<message><source>Copies of Microsoft Word</source><translation type="unfinished"></translation></message>
+<message><source>Word</source><translation type="unfinished"></translation></message>
+<message><source>Startup Folder</source><translation type="unfinished"></translation></message>
+<message><source>Version</source><translation type="unfinished"></translation></message>
+<message><source>Adds a copy of Word and its startup folder</source><translation type="unfinished"></translation></message>
+<message><source>Add</source><translation type="unfinished"></translation></message>
+<message><source>Removes the add-in from the selected folder and forgets the folder</source><translation type="unfinished"></translation></message>
+<message><source>Remove</source><translation type="unfinished"></translation></message>
+<message><source>Change…</source><translation type="unfinished"></translation></message>
+<message><source>Chooses another startup folder for the selected copy</source><translation type="unfinished"></translation></message>
+<message><source>Reset</source><translation type="unfinished"></translation></message>
+<message><source>Forgets the folder that you chose for the selected copy</source><translation type="unfinished"></translation></message>
+<message><source>Penmark is the add-in of Scrivel for Microsoft Word. While you write, it inserts citations from your library and builds the bibliography in the style that you choose.</source><translation type="unfinished"></translation></message>
+<message><source>What to do with Penmark</source><translation type="unfinished"></translation></message>
+<message><source>Install Penmark</source><translation type="unfinished"></translation></message>
+<message><source>Puts the add-in into the startup folder of every copy of Word on this computer.</source><translation type="unfinished"></translation></message>
+<message><source>Uninstall Penmark</source><translation type="unfinished"></translation></message>
+<message><source>Removes the add-in from Word. Your documents and their citations stay as they are.</source><translation type="unfinished"></translation></message>
+<message><source>Quit Microsoft Word before you continue.</source><translation type="unfinished"></translation></message>
+<message><source>This is the result for Scrivel Penmark. The log holds every step.</source><translation type="unfinished"></translation></message>
+<message><source>Result for Scrivel Penmark</source><translation type="unfinished"></translation></message>
+<message><source>This is the result of removing Scrivel Penmark. The log holds every step.</source><translation type="unfinished"></translation></message>
+<message><source>Result of removing Scrivel Penmark</source><translation type="unfinished"></translation></message>
+<message><source>Show Log</source><translation type="unfinished"></translation></message>
+<message><source>Installer</source><translation type="unfinished"></translation></message>
+<message><source>Customize…</source><translation type="unfinished"></translation></message>
+<message><source>Install Penmark…</source><translation type="unfinished"></translation></message>
+<message><source>Update Installed Copies…</source><translation type="unfinished"></translation></message>
+<message><source>Microsoft Word integration</source><translation type="unfinished"></translation></message>
+<message><source>Work with your references while you write</source><translation type="unfinished"></translation></message>
+<message><source>Penmark add-in</source><translation type="unfinished"></translation></message>
+<message><source>Penmark for Microsoft Word: citations and bibliographies in your documents</source><translation type="unfinished"></translation></message>
+<message><source>Content categories</source><translation type="unfinished"></translation></message>
+<message><source>Import filters for databases and library catalogues, by subject</source><translation type="unfinished"></translation></message>
+<message><source>Chemistry</source><translation type="unfinished"></translation></message>
+<message><source>Import filters for chemistry</source><translation type="unfinished"></translation></message>
+<message><source>Economics</source><translation type="unfinished"></translation></message>
+<message><source>Import filters for economics</source><translation type="unfinished"></translation></message>
+<message><source>History</source><translation type="unfinished"></translation></message>
+<message><source>Import filters for history</source><translation type="unfinished"></translation></message>
+<message><source>Law</source><translation type="unfinished"></translation></message>
+<message><source>Import filters for law</source><translation type="unfinished"></translation></message>
+<message><source>Medicine</source><translation type="unfinished"></translation></message>
+<message><source>Import filters for medicine</source><translation type="unfinished"></translation></message>
+<message><source>Physics</source><translation type="unfinished"></translation></message>
+<message><source>Import filters for physics</source><translation type="unfinished"></translation></message>
+<message><source>System integration</source><translation type="unfinished"></translation></message>
+<message><source>Scrivel 21 in the rest of your system</source><translation type="unfinished"></translation></message>
+<message><source>Spotlight importer</source><translation type="unfinished"></translation></message>
+<message><source>Spotlight finds the references in your libraries</source><translation type="unfinished"></translation></message>
+<message><source>Services</source><translation type="unfinished"></translation></message>
+<message><source>Scrivel 21 commands in the Services menu of other applications</source><translation type="unfinished"></translation></message>
+<message><source>Browser extension</source><translation type="unfinished"></translation></message>
+<message><source>Tessaron for Google Chrome: collects references from web pages</source><translation type="unfinished"></translation></message>
+<message><source>Not found</source><translation type="unfinished"></translation></message>
+<message><source>Find</source><translation type="unfinished"></translation></message>
+<message><source>Find Previous</source><translation type="unfinished"></translation></message>
+<message><source>Find Next</source><translation type="unfinished"></translation></message>
+<message><source>Close</source><translation type="unfinished"></translation></message>
+<message><source>%@, not selected</source><translation type="unfinished"></translation></message>
+<message><source>%@, not available</source><translation type="unfinished"></translation></message>
+<message><source>%@, selected</source><translation type="unfinished"></translation></message>
+<message><source>%@, partly selected</source><translation type="unfinished"></translation></message>
+<message><source>The text at %@ can’t be read. Download the installer again and start it from there.</source><translation type="unfinished"></translation></message>
+</context>
+</TS>

@@ -1,0 +1,192 @@
+#include "word/AppDiscovery.h"
+
+#include <algorithm>
+#include <array>
+#include <cstdio>
+#include <cstdlib>
+#include <filesystem>
+#include <iterator>
+#include <limits>
+#include <system_error>
+
+#include "platform/formats/ResourceFork.h"
+#include "platform/formats/VersionResource.h"
+#include "platform/ports/PlatformError.h"
+
+namespace ec {
+
+namespace fs = std::filesystem;
+
+namespace {
+
+constexpr std::string_view kShortVersion = "CFBundleShortVersionString";
+constexpr std::string_view kWordFileName = "Microsoft Word";
+constexpr std::uint32_t kVersionType = formats::fourCharacters("vers");
+constexpr std::int16_t kOwnVersion = 1;
+
+/// What stands at a path, links followed; where that can't be found out nothing does.
+fs::file_type kindOf(std::string_view path) {
+    std::error_code error;
+    return fs::status(path, error).type();
+}
+
+bool exists(fs::file_type kind) {
+    return kind != fs::file_type::not_found && kind != fs::file_type::none;
+}
+
+/// An old application that is a single file, not a folder.
+bool isSingleFile(fs::file_type kind) {
+    return exists(kind) && kind != fs::file_type::directory;
+}
+
+/// The path, or with the extension "app" where nothing stands at it.
+std::string bundleAt(std::string_view path, fs::file_type kind) {
+    if (exists(kind))
+        return std::string(path);
+    while (path.size() > 1 && path.ends_with('/'))
+        path.remove_suffix(1);
+    return std::string(path) + ".app";
+}
+
+/// The number that a text begins with, as atoi reads it: 0 where there is none.
+long long leadingNumber(const std::string& text) {
+    return std::strtoll(text.c_str(), nullptr, 10);
+}
+
+/// The platform's `intValue`, which stops at the ends of its range.
+std::uint32_t intValue(const std::string& text) {
+    using Limits = std::numeric_limits<std::int32_t>;
+    return static_cast<std::uint32_t>(
+        std::clamp<long long>(leadingNumber(text), Limits::min(), Limits::max()));
+}
+
+/// A byte of two binary-coded decimals: the number that its hexadecimal digits begin with.
+int decimal(std::uint8_t byte) {
+    std::array<char, 3> text{};
+    std::snprintf(text.data(), text.size(), "%X", byte);
+    return static_cast<int>(leadingNumber(text.data()));
+}
+
+std::optional<std::array<std::uint8_t, 4>> versionOfFile(ports::FinderFiles& files,
+                                                         std::string_view path) {
+    const auto fork = files.resourceFork(std::string(path));
+    const auto resource = formats::findResource(fork, kVersionType, kOwnVersion);
+    return resource ? formats::versionBytes(*resource) : std::nullopt;
+}
+
+bool isIn(int version, int fromVer, int toVer) {
+    return fromVer <= version && version <= toVer;
+}
+
+/// The folder's entries in the reverse order of their names, so that the last comes first. A folder
+/// that can't be read, or not to its end, has those that could be read.
+std::vector<fs::directory_entry> entriesFromTheLast(const fs::path& folder) {
+    std::vector<fs::directory_entry> entries;
+    std::error_code error;
+    for (fs::directory_iterator at(folder, error), end; !error && at != end; at.increment(error))
+        entries.push_back(*at);
+    std::ranges::sort(entries, std::ranges::greater(),
+                      [](const fs::directory_entry& entry) -> const std::string& {
+                          return entry.path().native();
+                      });
+    return entries;
+}
+
+/// Is it a folder to look into? Its kind is what the folder above says: nothing is asked of the
+/// item itself.
+bool isOpenFolder(const fs::directory_entry& entry) {
+    std::error_code error;
+    const fs::path extension = entry.path().extension();
+    return extension != ".app" && extension != ".bundle" && !entry.is_symlink(error) &&
+           entry.is_directory(error);
+}
+
+} // namespace
+
+int AppDiscovery::getMajorVersion(OptionalText path) const {
+    if (!path)
+        return kUnknownVersion;
+    const fs::file_type kind = kindOf(*path);
+    if (isSingleFile(kind)) {
+        const auto bytes = versionOfFile(m_needs.finderFiles, *path);
+        return bytes ? decimal(bytes->back()) : kUnknownVersion;
+    }
+    const auto version = getBundleStringForPath(bundleAt(*path, kind), kShortVersion);
+    return version ? static_cast<std::uint8_t>(leadingNumber(*version)) : kUnknownVersion;
+}
+
+int AppDiscovery::getFileVersion(OptionalText path, std::uint32_t& major, std::uint32_t& minor,
+                                 std::uint32_t& patch, std::uint32_t& build) const {
+    if (!path)
+        return 0;
+    const fs::file_type kind = kindOf(*path);
+    if (isSingleFile(kind)) {
+        if (const auto bytes = versionOfFile(m_needs.finderFiles, *path)) {
+            major = static_cast<std::uint32_t>(decimal((*bytes)[3]));
+            minor = static_cast<std::uint32_t>(decimal((*bytes)[2]));
+            build = static_cast<std::uint32_t>(decimal((*bytes)[0]));
+        }
+        return 0;
+    }
+    std::string rest =
+        getBundleStringForPath(bundleAt(*path, kind), kShortVersion).value_or(std::string());
+    for (std::uint32_t* part : {&major, &minor, &patch, &build}) {
+        const std::size_t end = rest.find('.');
+        if (const std::string text = rest.substr(0, end); !text.empty())
+            *part = intValue(text);
+        rest.erase(0, end == std::string::npos ? end : end + 1);
+    }
+    return 0;
+}
+
+std::optional<AppDiscovery::Paths>
+AppDiscovery::findApplicationsWithBundleIdentifier(std::string_view identifier, int fromVer,
+                                                   int toVer) const {
+    m_needs.log.logMessage(formatted("findApplicationsWithBundleIdentifier: %@", {identifier}));
+    try {
+        Paths found;
+        for (std::string& path : m_needs.applications.pathsFor(identifier))
+            if (exists(kindOf(path)) && isIn(getMajorVersion(path), fromVer, toVer))
+                found.push_back(std::move(path));
+        return found.empty() ? std::nullopt : std::optional(std::move(found));
+    } catch (const ports::PlatformError&) {
+        m_needs.log.logException();
+        return std::nullopt;
+    }
+}
+
+AppDiscovery::Paths AppDiscovery::findApplication(std::string_view name, int fromVer,
+                                                  int toVer) const {
+    m_needs.log.logMessage(formatted("findApplication: %@", {name}));
+    Paths found;
+    try {
+        auto pending = entriesFromTheLast(m_needs.session.places.system("/Applications"));
+        while (!pending.empty()) {
+            const fs::directory_entry entry = std::move(pending.back());
+            pending.pop_back();
+            const std::string& path = entry.path().native();
+            if (entry.path().filename().native() == name &&
+                (kindOf(path) == fs::file_type::directory ||
+                 isIn(getMajorVersion(path), fromVer, toVer)))
+                found.push_back(path);
+            if (isOpenFolder(entry))
+                std::ranges::move(entriesFromTheLast(entry.path()), std::back_inserter(pending));
+        }
+    } catch (const ports::PlatformError&) {
+        m_needs.log.logException();
+    }
+    return found;
+}
+
+const AppDiscovery::Paths& AppDiscovery::wordPaths() {
+    if (!m_wordPaths.paths().empty())
+        return m_wordPaths.paths();
+    addToWordPaths(m_needs.breadcrumbs.wordCrumbs().value_or(Paths()));
+    addToWordPaths(findApplicationsWithBundleIdentifier(kWordIdentifier, 12, 99).value_or(Paths()));
+    addToWordPaths(findApplication(kWordFileName, 10, 11));
+    if (!m_wordPaths.paths().empty())
+        m_needs.log.logMessage("Determine Word Paths: " + listDescription(m_wordPaths.paths()));
+    return m_wordPaths.paths();
+}
+
+} // namespace ec
