@@ -1,5 +1,6 @@
 #include "app/InstallRun.h"
 
+#include "app/CancelWindow.h"
 #include "app/InstalledProduct.h"
 #include "engine/Product.h"
 
@@ -20,16 +21,31 @@ void InstallRun::watch(ScrivelInstaller& installer) {
     m_watcher.emplace(installer.m_statusTextField,
                       std::vector<controls::Progress*>{&installer.m_progressIndicator},
                       m_program.events());
+    ec::ecController& wizard = installer.controller();
+    m_wizardWatcher.emplace(
+        wizard.processingText,
+        std::vector<controls::Progress*>{&wizard.progress, &wizard.custProgress},
+        m_program.events());
     m_hooked.emplace(
         m_program,
         Program::Hooks{
-            .controller = &installer.controller(),
+            .controller = &wizard,
             .appsAreRunning = [&installer] { return installer.isScrivelOrWordRunning(); },
             .isOpen = [&installer] { return installer.ending() == Ending::open; },
-            .cancel = [&installer] { installer.window().performClose(); },
+            .cancel =
+                [this, &installer, &wizard] {
+                    if (wizard.window.isVisible()) {
+                        cancelWindow(wizard.outlets);
+                        m_program.host().modalLoop.terminate(); // and with it any question
+                    }
+                    installer.window().performClose();
+                },
             .showProgress =
-                [&installer](const ports::ToolProgress& progress) {
-                    installer.showProgress(progress);
+                [&installer, &wizard](const ports::ToolProgress& progress) {
+                    if (wizard.progress.isRunning())
+                        wizard.progress.setAmount({progress.done, progress.total, progress.files});
+                    else
+                        installer.showProgress(progress);
                 }});
 }
 
@@ -62,8 +78,9 @@ RunOutcome InstallRun::outcome(int result) {
                                                 "start again");
     case Ending::kept:
         return ended(ExitCode::cancelled, "the installed copy was kept");
-    case Ending::closed:
     case Ending::open:
+        return ended(ExitCode::cancelled, "the wizard ended the program before the installation");
+    case Ending::closed:
         return ended(ExitCode::cancelled, "the window was closed");
     case Ending::finished:
         break;

@@ -25,6 +25,7 @@ class InstallRun {
     Program& m_program;
     myAppDelegate m_delegate;
     std::optional<ControlWatcher> m_watcher;
+    std::optional<ControlWatcher> m_wizardWatcher; ///< the menu opens the wizard
     std::optional<Program::Hooked> m_hooked;
 };
 

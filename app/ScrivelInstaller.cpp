@@ -11,6 +11,7 @@
 #include "engine/LogText.h"
 #include "engine/Product.h"
 #include "platform/ports/PlatformError.h"
+#include "wizard/LaunchModes.h"
 
 namespace app {
 
@@ -63,17 +64,31 @@ ScrivelInstaller::ScrivelInstaller(const ports::Host& host, ec::ecRules& rules, 
       m_outlets{m_window,
                 {{"m_button", &m_button},
                  {"m_statusTextField", &m_statusTextField},
-                 {"m_progressIndicator", &m_progressIndicator}}},
+                 {"m_progressIndicator", &m_progressIndicator},
+                 {"m_customizeItem", &m_customizeItem},
+                 {"m_penmarkItem", &m_penmarkItem},
+                 {"m_updateItem", &m_updateItem}}},
       m_resourcePath(host.bundles.mainResourceFolder()),
       m_svZipFile(m_resourcePath + std::string(product::kArchiveName)),
       m_destFolder(host.places.system(product::kDestinationFolder)),
       m_bundledVersion(product::kVersion) {
     m_progressIndicator.setHidden(true);
     m_button.setAction([this] { onClickInstallButton(); });
+    prepareMenu();
     m_window.setShouldClose([this](controls::Window& sender) { return windowShouldClose(sender); });
     m_loaded = m_host.interfaceFiles.load("ScrivelInstaller", m_outlets);
     if (m_loaded)
         awakeFromNib();
+}
+
+void ScrivelInstaller::prepareMenu() {
+    const auto opens = [this](controls::MenuItem& item, std::uint32_t launchMode) {
+        item.setAction(
+            [this, launchMode] { (void)m_ecController.showCustomizerFromMenu(launchMode); });
+    };
+    opens(m_customizeItem, ec::launch::kCustomize);
+    opens(m_penmarkItem, ec::launch::kPenmark);
+    m_updateItem.setAction([this] { (void)m_ecController.showPatcherFromMenu(); });
 }
 
 void ScrivelInstaller::setButtonTitle(const std::string& title) {
@@ -141,6 +156,8 @@ void ScrivelInstaller::onClickCancelButton() {
 }
 
 void ScrivelInstaller::beginInstallingApp() {
+    for (controls::MenuItem* item : {&m_customizeItem, &m_penmarkItem, &m_updateItem})
+        item->setEnabled(false);
     m_button.setAction([this] { onClickCancelButton(); });
     setButtonTitle(localized("Cancel"));
     m_progressIndicator.setHidden(false);

@@ -97,8 +97,13 @@ class ScrivelInstaller {
     controls::Progress m_progressIndicator;
     controls::TextField m_statusTextField;
     controls::Button m_button;
+    /// The menu's commands: each opens the wizard over the window. Not while an installation runs.
+    controls::MenuItem m_customizeItem;
+    controls::MenuItem m_penmarkItem;
+    controls::MenuItem m_updateItem;
 
   private:
+    void prepareMenu();
     void setButtonTitle(const std::string& title);
     void setStatus(ports::TextKey status);
     bool checkpoint(ports::TextKey status);

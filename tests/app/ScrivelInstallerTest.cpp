@@ -386,4 +386,31 @@ TEST_F(ScrivelInstallerTest, AReportOfBytesIsShownAndForgottenAtTheNextStatus) {
     EXPECT_EQ(install(), 0);
 }
 
+// --- the menu
+
+TEST_F(ScrivelInstallerTest, TheMenuOpensTheWizardOverTheWindow) {
+    ScrivelInstaller made(real, components.rules, components.root);
+    ec::ecController& wizard = made.controller();
+    std::vector<std::pair<std::uint32_t, std::string>> opened;
+    host.modalLoop.idle = [&] {
+        EXPECT_EQ(host.modalLoop.windows.back(), &wizard.window);
+        opened.emplace_back(wizard.m_mode, wizard.secretIdentity());
+        wizard.window.orderOut();
+        return true;
+    };
+    for (auto* item : {&made.m_customizeItem, &made.m_penmarkItem, &made.m_updateItem})
+        item->press();
+    EXPECT_THAT(opened, ElementsAre(testing::Pair(35, "Customizer_Customizer"),
+                                    testing::Pair(36, "Customizer_SVWeb_Install"),
+                                    testing::Pair(0, "Customizer_Patcher")));
+}
+
+TEST_F(ScrivelInstallerTest, TheMenuRestsWhileAnInstallationRuns) {
+    ScrivelInstaller made(real, components.rules, components.root);
+    EXPECT_TRUE(made.m_customizeItem.isEnabled());
+    made.beginInstallingApp();
+    for (const auto* item : {&made.m_customizeItem, &made.m_penmarkItem, &made.m_updateItem})
+        EXPECT_FALSE(item->isEnabled());
+}
+
 } // namespace

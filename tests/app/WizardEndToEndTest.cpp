@@ -567,4 +567,25 @@ TEST_F(WizardEndToEnd, UnattendedWizardsSpeakEnglishWhateverTheLocale) {
     EXPECT_EQ(wizard("customize").of("page").at(1)["title"], "Welcome to Scrivel 21");
 }
 
+// --- from the installer window's menu
+
+TEST_F(WizardEndToEnd, TheMenuOfTheInstallerWindowOpensTheWizard) {
+    const Result result = wizardWith("install", R"({"steps": [{"press": "m_customizeItem"},
+        {"snapshot": "wizard"}, {"press": "nextBtn"}, {"press": "nextBtn"},
+        {"snapshot": "installer"}, {"press": "m_penmarkItem"}, {"press": "cancelBtn"}]})");
+    EXPECT_EQ(result.exit, 1) << "nothing was installed";
+    EXPECT_EQ(result.of("snapshot").at(0)["page"], 6);
+    EXPECT_EQ(result.of("snapshot").at(1)["page"], nullptr);
+    EXPECT_EQ(result.of("snapshot").at(1)["controls"]["m_button"]["title"], "Install");
+    EXPECT_EQ(result.of("page").back()["page"], 26);
+}
+
+TEST_F(WizardEndToEnd, TheMenuCanNotBeUsedWhileAnInstallationRuns) {
+    replaceTool("ditto", "sleep 1");
+    const Result result =
+        wizardWith("install", R"({"steps": [{"press": "m_button"}, {"press": "m_updateItem"}]})");
+    EXPECT_EQ(result.exit, 3);
+    EXPECT_THAT(result.error, AllOf(HasSubstr("m_updateItem"), HasSubstr("disabled")));
+}
+
 } // namespace
