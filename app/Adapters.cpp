@@ -1,8 +1,10 @@
 #include "app/Adapters.h"
 
 #include "app/SystemParts.h"
+#include "app/WindowFrontEnd.h"
 #include "cp/private/SystemFolders.h"
 #include "platform/posix/DecidedAdministrator.h"
+#include "platform/posix/EnglishTexts.h"
 
 namespace app {
 
@@ -35,17 +37,22 @@ class NoLaunches final : public ports::Applications {
 
 Adapters::Adapters(const CommandLine& options, std::optional<bool> authorize)
     : places(placesOf(options)), bundles(ownExecutable()),
-      texts({.resourceFolder = bundles.mainResourceFolder(),
-             .languages = options.unattended ? std::vector<std::string>{} : preferredLanguages()}),
-      events(clock, mainQueue), spawnedTools({.ownToolsFolder = folderOf(bundles.mainExecutable()),
-                                              .progress =
-                                                  [this](const ports::ToolProgress& progress) {
-                                                      mainQueue.post([this, progress] {
-                                                          if (showProgress)
-                                                              showProgress(progress);
-                                                      });
-                                                  },
-                                              .outputToError = options.events}),
+      texts(options.unattended ? std::make_unique<posix::EnglishTexts>(bundles.mainResourceFolder())
+                               : makeTexts(bundles.mainResourceFolder(), preferredLanguages())),
+      events(clock, mainQueue),
+      spawnedTools({.ownToolsFolder = folderOf(bundles.mainExecutable()),
+                    .progress =
+                        [this](const ports::ToolProgress& progress) {
+                            mainQueue.post([this, progress] {
+                                if (showProgress)
+                                    showProgress(progress);
+                            });
+                        },
+                    .whileWaiting = options.unattended ? nullptr : std::function<void()>([this] {
+                        if (keepAlive)
+                            keepAlive();
+                    }),
+                    .outputToError = options.events}),
       tools(spawnedTools, events),
       systemAdministrator(makeAdministrator(folderOf(bundles.mainExecutable()),
                                             options.unattended ? "" : "scrivel-askpass")),

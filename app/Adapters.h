@@ -1,5 +1,6 @@
 // The adapters of one run: everything between the core and the system, and the watchers that tell
-// the event stream what goes by. Made by the composition root; knows no front end. The members
+// the event stream what goes by. Made by the composition root; knows no front end, but that the
+// window has texts of its own. The members
 // stand in the order of their needs.
 #pragma once
 
@@ -13,12 +14,12 @@
 #include "app/unattended/Observers.h"
 #include "platform/ports/Applications.h"
 #include "platform/ports/FinderFiles.h"
+#include "platform/ports/LocalizedTexts.h"
 #include "platform/ports/SystemPlaces.h"
 #include "platform/posix/FileTextStreams.h"
 #include "platform/posix/PlistBundles.h"
 #include "platform/posix/SpawnedTools.h"
 #include "platform/posix/StandardSystemLog.h"
-#include "platform/posix/StringsFileTexts.h"
 #include "platform/posix/SystemClock.h"
 #include "platform/posix/ThreadQueues.h"
 
@@ -34,10 +35,13 @@ struct Adapters {
     posix::StandardSystemLog systemLog;
     posix::FileTextStreams streams;
     posix::PlistBundles bundles;
-    posix::StringsFileTexts texts;
+    /// English in an unattended run, else in the user's language.
+    std::unique_ptr<ports::LocalizedTexts> texts;
     EventStream events;
     /// Told on the main thread what a tool of our own reports; set by whoever shows it.
     std::function<void(const ports::ToolProgress&)> showProgress;
+    /// Called while a tool is waited for; set by whoever has a window to keep alive.
+    std::function<void()> keepAlive;
     posix::SpawnedTools spawnedTools;
     ObservedTools tools;
     std::unique_ptr<ports::Administrator> systemAdministrator;

@@ -85,7 +85,7 @@ Run::Run(const CommandLine& options, AnswersFile answers, int& argc, char** argv
              .applications = *m_adapters.applications,
              .finderFiles = *m_adapters.finderFiles,
              .bundles = m_adapters.bundles,
-             .texts = m_adapters.texts,
+             .texts = *m_adapters.texts,
              .mainQueue = m_adapters.mainQueue,
              .backgroundQueue = m_adapters.backgroundQueue,
              .interfaceFiles = m_frontEnd.interfaceFiles,
@@ -102,6 +102,8 @@ Run::Run(const CommandLine& options, AnswersFile answers, int& argc, char** argv
       m_delegate({.host = m_host,
                   .finishBackgroundWork = [this] { finishBackgroundWork(); },
                   .willRun = [this](ScrivelInstaller& installer) { watch(installer); }}) {
+    if (m_window)
+        m_adapters.keepAlive = m_window->keepAlive();
     if (options.events)
         m_adapters.events.addListener(
             [](const Event& event) { std::cout << EventStream::line(event) << std::flush; });
@@ -130,7 +132,7 @@ std::unique_ptr<WindowFrontEnd> Run::window(int& argc, char** argv) {
     return makeWindowFrontEnd({.argc = argc,
                                .argv = argv,
                                .resourceFolder = m_adapters.bundles.mainResourceFolder(),
-                               .texts = m_adapters.texts,
+                               .texts = *m_adapters.texts,
                                .mainQueueDescriptor = m_adapters.mainQueue.descriptor(),
                                .runPending = [this] { m_adapters.mainQueue.runPending(); }});
 }

@@ -20,10 +20,10 @@ using ec::formatted;
 
 namespace {
 
-constexpr std::string_view kExtracting = "Extracting %@…";
-constexpr std::string_view kInstalling = "Installing %@ to the Applications folder…";
-constexpr std::string_view kLaunching = "Launching %@ for the first time…";
-constexpr std::string_view kCanceling = "Canceling…";
+constexpr ports::TextKey kExtracting = "Extracting %@…";
+constexpr ports::TextKey kInstalling = "Installing %@ to the Applications folder…";
+constexpr ports::TextKey kLaunching = "Launching %@ for the first time…";
+constexpr ports::TextKey kCanceling = "Canceling…";
 
 /// The toolkit version that came with a dark appearance.
 constexpr double kFirstDarkToolkit = 1671;
@@ -76,10 +76,6 @@ ScrivelInstaller::ScrivelInstaller(const ports::Host& host)
         awakeFromNib();
 }
 
-std::string ScrivelInstaller::localized(std::string_view key) const {
-    return m_host.texts.translated(key);
-}
-
 void ScrivelInstaller::setButtonTitle(const std::string& title) {
     if (std::floor(m_host.appearance.toolkitVersion()) >= kFirstDarkToolkit)
         m_button.setAttributedTitle(
@@ -88,8 +84,8 @@ void ScrivelInstaller::setButtonTitle(const std::string& title) {
         m_button.setTitle(title);
 }
 
-void ScrivelInstaller::setStatus(std::string_view key) {
-    m_statusTextField.setText(formatted(localized(key), {product::kDisplayName}));
+void ScrivelInstaller::setStatus(ports::TextKey status) {
+    m_statusTextField.setText(formatted(localized(status), {product::kDisplayName}));
 }
 
 void ScrivelInstaller::awakeFromNib() {
@@ -156,11 +152,11 @@ void ScrivelInstaller::showProgress(const ports::ToolProgress& progress) {
     m_progressIndicator.setAmount({progress.done, progress.total, progress.files});
 }
 
-bool ScrivelInstaller::checkpoint(std::string_view statusKey) {
+bool ScrivelInstaller::checkpoint(ports::TextKey status) {
     bool goOn = false;
     m_host.mainQueue.sync([&] {
         if (!cancelled()) {
-            setStatus(statusKey);
+            setStatus(status);
             m_progressIndicator.setAmount({}); // the next work counts anew
         }
         // Read on the main thread too, so that a click between the two can't fall through.

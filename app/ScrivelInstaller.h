@@ -99,10 +99,10 @@ class ScrivelInstaller {
 
   private:
     void setButtonTitle(const std::string& title);
-    void setStatus(std::string_view key);
-    bool checkpoint(std::string_view statusKey);
+    void setStatus(ports::TextKey status);
+    bool checkpoint(ports::TextKey status);
     void endSession(Ending ending, int code);
-    std::string localized(std::string_view key) const;
+    std::string localized(ports::TextKey key) const { return m_host.texts.lookUp(key); }
 
     void runInstallationBlock();
     std::string makeTemporaryFolder() const;

@@ -2,9 +2,11 @@
 // none: WindowFrontEnd.none.cpp stands in for WindowFrontEnd.qt.cpp.
 #pragma once
 
+#include <functional>
 #include <memory>
 #include <string>
 #include <string_view>
+#include <vector>
 
 #include "platform/ports/FrontEnd.h"
 #include "platform/ports/LocalizedTexts.h"
@@ -29,6 +31,8 @@ class WindowFrontEnd {
 
     virtual ~WindowFrontEnd() = default;
     virtual FrontEndPorts ports() = 0;
+    /// To be called again and again while the main thread waits for a tool.
+    virtual std::function<void()> keepAlive() = 0;
 };
 
 /// Said when there is nothing to show a window on, with how to go on.
@@ -37,6 +41,11 @@ inline constexpr std::string_view kNoDisplay =
 
 /// Can this build show a window at all?
 bool hasWindowFrontEnd();
+
+/// The texts that go with the window, in the dearest of the user's languages (as
+/// app::preferredLanguages gives them) that there is a translation for. Made before the front end.
+std::unique_ptr<ports::LocalizedTexts> makeTexts(const std::string& resourceFolder,
+                                                 std::vector<std::string> languages);
 
 /// Null in a build without one. How the window looks and what happens when no display can be opened
 /// is filled in here.

@@ -4,10 +4,12 @@
 #include <iostream>
 #include <optional>
 #include <string_view>
+#include <utility>
 
 #include "app/ExitCode.h"
 #include "app/OptionTable.h"
 #include "ui/AskPassDialog.h"
+#include "ui/TranslatedTexts.h"
 
 namespace app {
 
@@ -30,6 +32,7 @@ class GuiWindow final : public WindowFrontEnd {
         return {m_gui.interfaceFiles(), m_gui.alertSheets(), m_gui.modalLoop(), m_gui.appearance(),
                 m_gui.fileChoosers(),   m_gui.reader(),      m_gui.beeper()};
     }
+    std::function<void()> keepAlive() override { return m_gui.keepAlive(); }
 
   private:
     ui::GuiFrontEnd m_gui;
@@ -39,6 +42,12 @@ class GuiWindow final : public WindowFrontEnd {
 
 bool hasWindowFrontEnd() {
     return true;
+}
+
+std::unique_ptr<ports::LocalizedTexts> makeTexts(const std::string& resourceFolder,
+                                                 std::vector<std::string> languages) {
+    return std::make_unique<ui::TranslatedTexts>(ui::TranslatedTexts::Needs{
+        .resourceFolder = resourceFolder, .languages = std::move(languages)});
 }
 
 std::unique_ptr<WindowFrontEnd> makeWindowFrontEnd(WindowFrontEnd::Needs needs) {

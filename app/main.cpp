@@ -10,15 +10,13 @@
 #include "app/SystemParts.h"
 #include "app/WindowFrontEnd.h"
 #include "platform/posix/PlistBundles.h"
-#include "platform/posix/StringsFileTexts.h"
 
 namespace {
 
 int askPassword(int& argc, char** argv) {
     const posix::PlistBundles bundles(app::ownExecutable());
-    const posix::StringsFileTexts texts(
-        {.resourceFolder = bundles.mainResourceFolder(), .languages = app::preferredLanguages()});
-    return app::runPasswordDialog(argc, argv, bundles.mainResourceFolder(), texts);
+    const auto texts = app::makeTexts(bundles.mainResourceFolder(), app::preferredLanguages());
+    return app::runPasswordDialog(argc, argv, bundles.mainResourceFolder(), *texts);
 }
 
 } // namespace

@@ -46,7 +46,8 @@ class StartUp {
 
 ThemedApplication::ThemedApplication(const Needs& needs)
     : m_application(StartUp(needs.onNoDisplay).argumentCount(needs.argc), needs.argv),
-      m_translator(needs.texts), m_pictures(QString::fromStdString(needs.resourceFolder)),
+      m_language(needs.texts.languageTag()), m_translator(needs.texts),
+      m_pictures(QString::fromStdString(needs.resourceFolder)),
       m_dark(
           needs.dark.value_or(QApplication::palette().color(QPalette::Window).lightness() < 128)) {
     Theme::install(m_application, m_dark);

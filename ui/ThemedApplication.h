@@ -10,6 +10,7 @@
 
 #include "platform/ports/LocalizedTexts.h"
 #include "ui/Pictures.h"
+#include "ui/SpokenLanguage.h"
 #include "ui/Texts.h"
 
 namespace ui {
@@ -34,7 +35,8 @@ class ThemedApplication {
 
   private:
     QApplication m_application;
-    TextsTranslator m_translator;
+    SpokenLanguage m_language;
+    TextsTranslator m_translator; // asked before the toolkit's own
     Pictures m_pictures;
     bool m_dark;
 };

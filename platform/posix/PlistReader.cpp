@@ -1,7 +1,6 @@
 #include "platform/posix/PlistReader.h"
 
 #include <cerrno>
-#include <cstdlib>
 #include <fcntl.h>
 #include <plist/plist.h>
 #include <sys/stat.h>
@@ -66,26 +65,6 @@ std::optional<std::string> PlistReader::string(std::string_view key) const {
     if (!PLIST_IS_DICT(m_list.get()) || key.find('\0') != std::string_view::npos)
         return std::nullopt;
     return stringOf(plist_dict_get_item(m_list.get(), std::string(key).c_str()));
-}
-
-std::map<std::string, std::string, std::less<>> PlistReader::strings() const {
-    std::map<std::string, std::string, std::less<>> all;
-    if (!PLIST_IS_DICT(m_list.get()))
-        return all;
-    plist_dict_iter at = nullptr;
-    plist_dict_new_iter(m_list.get(), &at);
-    for (;;) {
-        char* key = nullptr;
-        plist_t value = nullptr;
-        plist_dict_next_item(m_list.get(), at, &key, &value);
-        const std::unique_ptr<char, decltype(&std::free)> keyOwner(key, &std::free);
-        if (!value)
-            break;
-        if (auto text = stringOf(value); text && key)
-            all.try_emplace(key, std::move(*text)); // of two equal keys the first counts
-    }
-    std::free(at);
-    return all;
 }
 
 } // namespace posix

@@ -1,8 +1,7 @@
 // Property lists, XML and binary; the one place that knows the library for them. Used by the
-// adapters that read information dictionaries and tables of texts. Input may be hostile.
+// adapters that read information dictionaries. Input may be hostile.
 #pragma once
 
-#include <map>
 #include <memory>
 #include <optional>
 #include <string>
@@ -22,9 +21,6 @@ class PlistReader {
     /// The string under `key` in the list's dictionary, as UTF-8. None when the list is no
     /// dictionary, the key is absent or its value is no string.
     std::optional<std::string> string(std::string_view key) const;
-
-    /// All strings of the list's dictionary by their keys; other values are left out.
-    std::map<std::string, std::string, std::less<>> strings() const;
 
   private:
     struct Free {

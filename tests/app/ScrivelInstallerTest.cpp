@@ -17,9 +17,11 @@ namespace {
 
 namespace fs = std::filesystem;
 using app::ScrivelInstaller;
+using testing::Contains;
 using testing::ElementsAre;
 using testing::HasSubstr;
 using testing::IsEmpty;
+using testing::Not;
 using Ending = ScrivelInstaller::Ending;
 
 constexpr int kFirst = ports::AlertSheets::kFirstButton;
@@ -359,11 +361,12 @@ TEST_F(ScrivelInstallerTest, TheMisspeltRetrieveSheetIsWantedAsItStands) {
 
 TEST_F(ScrivelInstallerTest, EveryTextButTheWarningThatItCannotBeUndoneIsTranslated) {
     host.texts.table["Install %@"] = "%@ einrichten";
-    host.texts.table["This cannot be undone."] = "never shown";
     host.texts.table["Extracting %@\u2026"] = "%@ wird entpackt\u2026";
     fs::create_directories(destination);
     EXPECT_EQ(install({kSecond}), 0);
     EXPECT_EQ(host.alertSheets.alerts.at(0).informative, "This cannot be undone.");
+    EXPECT_FALSE(ports::TextKey::isInCatalogue("This cannot be undone."));
+    EXPECT_THAT(host.texts.lookedUp, Not(Contains("This cannot be undone.")));
     EXPECT_EQ(statuses.at(0), "Scrivel 21 wird entpackt\u2026");
 }
 

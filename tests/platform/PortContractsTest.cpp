@@ -11,12 +11,10 @@
 #include "platform/posix/FileTextStreams.h"
 #include "platform/posix/PlistBundles.h"
 #include "platform/posix/ProcessSystem.h"
-#include "platform/posix/StringsFileTexts.h"
 #include "platform/posix/SystemClock.h"
 #include "platform/posix/ThreadQueues.h"
 #include "tests/fakes/FakeBundles.h"
 #include "tests/fakes/FakeClock.h"
-#include "tests/fakes/FakeLocalizedTexts.h"
 #include "tests/fakes/FakeQueues.h"
 #include "tests/fakes/FakeTextStreams.h"
 #include "tests/support/TemporaryFolder.h"
@@ -136,43 +134,6 @@ TYPED_TEST(BundlesContract, TheMainBundlesPathsAreAbsoluteAndHaveNoSlashAtTheirE
         EXPECT_TRUE(path.starts_with('/'));
         EXPECT_FALSE(path.ends_with('/'));
     }
-}
-
-// --- Localized texts
-
-struct RealTexts {
-    ports::LocalizedTexts& with(const std::string& key, const std::string& value) {
-        folder.write("de.lproj/Localizable.strings",
-                     dictionary("<key>" + key + "</key><string>" + value + "</string>"));
-        texts = std::make_unique<posix::StringsFileTexts>(posix::StringsFileTexts::Needs{
-            .resourceFolder = folder.path(), .languages = {"de_AT.UTF-8"}});
-        return *texts;
-    }
-    tests::TemporaryFolder folder;
-    std::unique_ptr<posix::StringsFileTexts> texts;
-};
-
-struct PretendedTexts {
-    ports::LocalizedTexts& with(const std::string& key, const std::string& value) {
-        texts.table[key] = value;
-        return texts;
-    }
-    fakes::FakeLocalizedTexts texts;
-};
-
-template <class Host>
-class LocalizedTextsContract : public testing::Test {
-  protected:
-    Host host;
-};
-using TextHosts = testing::Types<RealTexts, PretendedTexts>;
-TYPED_TEST_SUITE(LocalizedTextsContract, TextHosts);
-
-TYPED_TEST(LocalizedTextsContract, AKeyInTheTableGivesItsTranslationAndAnyOtherItself) {
-    const ports::LocalizedTexts& texts = this->host.with("Install %@", "%@ installieren");
-    EXPECT_EQ(texts.lookUp("Install %@"), "%@ installieren");
-    EXPECT_EQ(texts.lookUp("install %@"), "install %@");
-    EXPECT_EQ(texts.lookUp(""), "");
 }
 
 // --- Queues

@@ -1,59 +1,41 @@
+#include <algorithm>
 #include <array>
 #include <cstdio>
 #include <gtest/gtest.h>
 #include <string>
+#include <string_view>
 #include <unistd.h>
 
+#include "platform/posix/EnglishTexts.h"
 #include "platform/posix/ProcessSystem.h"
 #include "platform/posix/StandardSystemLog.h"
-#include "platform/posix/StringsFileTexts.h"
 #include "tests/support/TemporaryFolder.h"
 
 namespace {
 
-using posix::StringsFileTexts;
+// Sorted, so that looking a key up may halve the list.
+static_assert(std::ranges::is_sorted(ports::kTextKeys));
+static_assert(std::ranges::all_of(ports::kTextKeys, ports::TextKey::isInCatalogue));
+static_assert(!ports::TextKey::isInCatalogue(""));
+static_assert(!ports::TextKey::isInCatalogue("cancel"));
+static_assert(!ports::TextKey::isInCatalogue("\U0010FFFF"));
+static_assert(ports::TextKey("Cancel").english() == "Cancel");
 
-class StringsFileTextsTest : public testing::Test {
-  protected:
-    void table(const std::string& language, const std::string& value) {
-        folder.write(language + ".lproj/Localizable.strings",
-                     "<plist version=\"1.0\"><dict><key>Yes</key><string>" + value +
-                         "</string></dict></plist>");
-    }
-    std::string yes(std::vector<std::string> languages) {
-        return StringsFileTexts(
-                   {.resourceFolder = folder.path("resources"), .languages = std::move(languages)})
-            .lookUp("Yes");
-    }
-    tests::TemporaryFolder folder;
-};
-
-TEST_F(StringsFileTextsTest, TheNearestTableOfTheDearestLanguageIsTaken) {
-    table("resources/de", "Ja");
-    table("resources/de_AT", "Jo");
-    table("resources/fr", "Oui");
-    EXPECT_EQ(yes({"de_AT.UTF-8", "fr"}), "Jo");
-    EXPECT_EQ(yes({"de_CH@euro", "fr"}), "Ja");
-    EXPECT_EQ(yes({"it", "fr_FR.UTF-8"}), "Oui");
-    EXPECT_EQ(yes({"it"}), "Yes");
-    EXPECT_EQ(yes({}), "Yes");
+TEST(EnglishTexts, AreTheirOwnKeys) {
+    const posix::EnglishTexts texts("/nowhere");
+    for (const std::string_view key : ports::kTextKeys)
+        EXPECT_EQ(texts.translated(key), key);
+    EXPECT_EQ(texts.languageTag(), "en");
 }
 
-TEST_F(StringsFileTextsTest, EnglishIsReadyWithoutATable) {
-    table("resources/de", "Ja");
-    EXPECT_EQ(yes({"en_GB.UTF-8", "de"}), "Yes");
-}
-
-TEST_F(StringsFileTextsTest, ANameFromTheEnvironmentCannotLeadElsewhere) {
-    table("elsewhere", "Leaked");
-    EXPECT_EQ(yes({"../elsewhere"}), "Yes");
-    EXPECT_EQ(yes({"", ".UTF-8", "_"}), "Yes");
-}
-
-TEST_F(StringsFileTextsTest, ATableThatCannotBeReadIsPassedOver) {
-    folder.write("resources/de.lproj/Localizable.strings", "\"Yes\" = \"Ja\";");
-    table("resources/fr", "Oui");
-    EXPECT_EQ(yes({"de", "fr"}), "Oui");
+TEST(LocalizedFiles, AreTheLanguagesOwnElseTheEnglishOnes) {
+    const tests::TemporaryFolder folder;
+    const std::string german = folder.write("de.lproj/ReadMe.html", "Lies mich");
+    const std::string english = folder.write("en.lproj/ReadMe.html", "Read me");
+    EXPECT_EQ(posix::localizedFile(folder.path(), "de", "ReadMe.html"), german);
+    EXPECT_EQ(posix::localizedFile(folder.path(), "fr", "ReadMe.html"), english);
+    EXPECT_EQ(posix::localizedFile(folder.path(), "de", "Other.html"), std::nullopt);
+    EXPECT_EQ(posix::localizedFile(folder.path(), "de", ""), std::nullopt) << "a folder";
 }
 
 TEST(StandardSystemLog, ALineGoesToStandardErrorAsOneLineAndAsItStands) {

@@ -231,7 +231,7 @@ TEST_F(Bindings, OutliveTheirModels) {
 }
 
 TEST(ProgressCaptions, CountInTheUnitThatSuitsTheTotal) {
-    const stage::TableTexts english("en");
+    const ui::TranslatedTexts english = stage::shippedTexts("en");
     const auto caption = [&](std::uint64_t done, std::uint64_t total) {
         return ui::ProgressBinding::captionFor({done, total, 0}, english).toStdString();
     };
@@ -246,8 +246,8 @@ TEST(ProgressCaptions, CountInTheUnitThatSuitsTheTotal) {
 TEST(ProgressCaptions, SpeakTheUsersLanguage) {
     const QLocale before;
     QLocale::setDefault(QLocale("fr_FR"));
-    const QString caption =
-        ui::ProgressBinding::captionFor({1'500'000'000, 2'000'000'000, 0}, stage::TableTexts("fr"));
+    const QString caption = ui::ProgressBinding::captionFor({1'500'000'000, 2'000'000'000, 0},
+                                                            stage::shippedTexts("fr"));
     QLocale::setDefault(before);
     EXPECT_EQ(caption, u"1,50\u00A0Go sur 2,00\u00A0Go");
 }

@@ -160,8 +160,8 @@ TEST(InterfaceFiles, AreFalseWhenAnOutletIsOfAnotherClass) {
     EXPECT_FALSE(canLoad(file));
 }
 
-TEST(InterfaceFiles, TakeTheirTextsFromTheLocalizedTable) {
-    const stage::TableTexts german("de");
+TEST(InterfaceFiles, TakeTheirTextsFromTheTranslation) {
+    const ui::TranslatedTexts german = stage::shippedTexts("de");
     ui::TextsTranslator translator(german);
     QApplication::installTranslator(&translator);
     stage::InstallerModels models;
@@ -174,7 +174,7 @@ TEST(InterfaceFiles, TakeTheirTextsFromTheLocalizedTable) {
 class EveryLanguage : public testing::TestWithParam<const char*> {};
 
 TEST_P(EveryLanguage, FitsIntoTheWindow) {
-    const stage::TableTexts texts(GetParam());
+    const ui::TranslatedTexts texts = stage::shippedTexts(GetParam());
     ui::TextsTranslator translator(texts);
     QApplication::installTranslator(&translator);
     stage::InstallerModels models;
@@ -185,8 +185,9 @@ TEST_P(EveryLanguage, FitsIntoTheWindow) {
     models.m_progressIndicator.setHidden(false);
     models.m_progressIndicator.startAnimation();
     models.m_progressIndicator.setAmount({999'000'000, 999'000'000, 1});
-    for (const char* key : {"Extracting %@…", "Installing %@ to the Applications folder…",
-                            "Launching %@ for the first time…", "Canceling…"}) {
+    for (const ports::TextKey key : std::initializer_list<ports::TextKey>{
+             "Extracting %@…", "Installing %@ to the Applications folder…",
+             "Launching %@ for the first time…", "Canceling…"}) {
         models.m_statusTextField.setText(stage::formatted(texts, key, {"Scrivel 21"}));
         QApplication::processEvents();
         for (const QLabel* label : dialogOnScreen()->findChildren<QLabel*>()) {
@@ -197,8 +198,8 @@ TEST_P(EveryLanguage, FitsIntoTheWindow) {
                 EXPECT_LE(label->sizeHint().width(), label->width()) << label->text().toStdString();
         }
     }
-    for (const char* key : {"Install", "Cancel"}) {
-        models.m_button.setTitle(texts.translated(key));
+    for (const ports::TextKey key : std::initializer_list<ports::TextKey>{"Install", "Cancel"}) {
+        models.m_button.setTitle(texts.lookUp(key));
         QApplication::processEvents();
         const auto* button = dialogOnScreen()->findChild<QPushButton*>("m_button");
         EXPECT_LE(button->sizeHint().width(), button->width());
@@ -206,7 +207,7 @@ TEST_P(EveryLanguage, FitsIntoTheWindow) {
 }
 
 TEST_P(EveryLanguage, HasSheetsNoWiderThanTheWindow) {
-    const stage::TableTexts texts(GetParam());
+    const ui::TranslatedTexts texts = stage::shippedTexts(GetParam());
     stage::InstallerModels models;
     ASSERT_TRUE(front().frontEnd.interfaceFiles().load("ScrivelInstaller", models.outlets));
     models.window.orderFront();
@@ -223,5 +224,5 @@ TEST_P(EveryLanguage, HasSheetsNoWiderThanTheWindow) {
     }
 }
 
-INSTANTIATE_TEST_SUITE_P(Translations, EveryLanguage, testing::Values("en", "de", "fr", "es", "ja"),
+INSTANTIATE_TEST_SUITE_P(Translations, EveryLanguage, testing::ValuesIn(stage::kLanguages),
                          [](const auto& instance) { return std::string(instance.param); });

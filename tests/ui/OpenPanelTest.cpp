@@ -122,7 +122,7 @@ TEST_F(OpenPanelTests, OfferNoFileOfAnotherType) {
 }
 
 TEST_F(OpenPanelTests, TakeASingleFileOfTheFourCharacterTypeThatIsOffered) {
-    const stage::TableTexts texts("en");
+    const ui::TranslatedTexts texts = stage::shippedTexts("en");
     ui::Pictures pictures({});
     const ui::UiFiles files({.resourceFolder = "", .texts = texts, .pictures = pictures});
     ui::SessionLoop loop(files);

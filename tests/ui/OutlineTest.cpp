@@ -74,6 +74,7 @@ struct GermanNames final : ports::LocalizedTexts {
         return english == "Arts" ? "Kunst" : std::string(english);
     }
     std::optional<std::string> file(std::string_view) const override { return std::nullopt; }
+    std::string languageTag() const override { return "de"; }
     mutable int asked = 0;
 };
 

@@ -1,11 +1,9 @@
 #include "tests/ui/Stage.h"
 
 #include <fcntl.h>
-#include <plist/plist.h>
 #include <unistd.h>
 
 #include <cstdio>
-#include <cstdlib>
 #include <exception>
 #include <stdexcept>
 
@@ -23,40 +21,14 @@
 
 namespace stage {
 
-TableTexts::TableTexts(const std::string& language) {
-    QFile file(
-        QString::fromStdString(SCRIVEL_RESOURCES "/" + language + ".lproj/Localizable.strings"));
-    if (!file.open(QIODevice::ReadOnly))
-        throw std::runtime_error("no translation " + language);
-    const QByteArray xml = file.readAll();
-    plist_t root = nullptr;
-    plist_from_xml(xml.constData(), static_cast<std::uint32_t>(xml.size()), &root);
-    plist_dict_iter at = nullptr;
-    plist_dict_new_iter(root, &at);
-    for (;;) {
-        char* key = nullptr;
-        char* text = nullptr;
-        plist_t value = nullptr;
-        plist_dict_next_item(root, at, &key, &value);
-        if (!value)
-            break;
-        plist_get_string_val(value, &text);
-        m_table.emplace(key, text);
-        std::free(key);
-        std::free(text);
-    }
-    std::free(at);
-    plist_free(root);
+ui::TranslatedTexts shippedTexts(const std::string& language) {
+    return ui::TranslatedTexts(
+        {.resourceFolder = SCRIVEL_BUNDLE_RESOURCES, .languages = {language}});
 }
 
-std::string TableTexts::translated(std::string_view key) const {
-    const auto found = m_table.find(key);
-    return found == m_table.end() ? std::string(key) : found->second;
-}
-
-std::string formatted(const ports::LocalizedTexts& texts, std::string_view key,
+std::string formatted(const ports::LocalizedTexts& texts, ports::TextKey key,
                       std::initializer_list<std::string_view> values) {
-    std::string text = texts.translated(key);
+    std::string text = texts.lookUp(key);
     std::size_t at = 0;
     for (const std::string_view value : values) {
         at = text.find("%@", at);

@@ -1,10 +1,9 @@
-// What the tests of the front end share: a resource folder as the bundle has it, translations from
-// the real tables, a main queue, and the installer window's models with its alerts.
+// What the tests of the front end share: a resource folder as the bundle has it, the translations
+// of the built bundle, a main queue, and the installer window's models with its alerts.
 #pragma once
 
 #include <condition_variable>
 #include <deque>
-#include <map>
 #include <memory>
 #include <mutex>
 #include <optional>
@@ -19,6 +18,7 @@
 #include "platform/ports/LocalizedTexts.h"
 #include "platform/ports/Queues.h"
 #include "ui/GuiFrontEnd.h"
+#include "ui/TranslatedTexts.h"
 
 class QDialog;
 
@@ -28,20 +28,14 @@ class SheetDialog;
 
 namespace stage {
 
-/// The texts of one of the project's translations ("en", "de", ...).
-class TableTexts final : public ports::LocalizedTexts {
-  public:
-    explicit TableTexts(const std::string& language);
-    std::string translated(std::string_view key) const override;
-    std::optional<std::string> file(std::string_view) const override { return std::nullopt; }
-    const std::map<std::string, std::string, std::less<>>& table() const { return m_table; }
+/// The texts of one of the translations that are shipped ("de", ...); English for any other.
+ui::TranslatedTexts shippedTexts(const std::string& language);
 
-  private:
-    std::map<std::string, std::string, std::less<>> m_table;
-};
+/// Those translations, and English.
+inline constexpr const char* kLanguages[] = {"en", "de", "fr", "es", "ja", "zh_CN", "ar"};
 
 /// The key's translation with each "%@" replaced.
-std::string formatted(const ports::LocalizedTexts& texts, std::string_view key,
+std::string formatted(const ports::LocalizedTexts& texts, ports::TextKey key,
                       std::initializer_list<std::string_view> values);
 
 /// A resource folder with the interface file and the pictures, gone with this.
@@ -114,7 +108,7 @@ struct Front {
     Front(int& argc, char** argv);
 
     Resources resources;
-    TableTexts texts{"en"};
+    ui::TranslatedTexts texts = shippedTexts("en");
     PipeQueue queue;
     ui::GuiFrontEnd frontEnd;
 };

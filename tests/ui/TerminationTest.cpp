@@ -13,7 +13,7 @@
 using ports::ModalLoop;
 
 TEST(Termination, EndsEverySessionFromTheInnermostOne) {
-    const stage::TableTexts texts("en");
+    const ui::TranslatedTexts texts = stage::shippedTexts("en");
     ui::Pictures pictures({});
     const ui::UiFiles files({.resourceFolder = "", .texts = texts, .pictures = pictures});
     ui::SessionLoop loop(files);
@@ -45,7 +45,7 @@ TEST(Termination, EndsEverySessionFromTheInnermostOne) {
 }
 
 TEST(Termination, RejectsAnOpenDialogOfTheFrontEnd) {
-    const stage::TableTexts texts("en");
+    const ui::TranslatedTexts texts = stage::shippedTexts("en");
     ui::Pictures pictures({});
     const ui::UiFiles files({.resourceFolder = "", .texts = texts, .pictures = pictures});
     ui::SessionLoop loop(files);

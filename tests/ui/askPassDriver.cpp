@@ -41,7 +41,7 @@ int main(int argc, char** argv) {
         argv[--argc] = nullptr;
     }
     std::optional<stage::Resources> resources(std::in_place);
-    const stage::TableTexts texts("en");
+    const ui::TranslatedTexts texts = stage::shippedTexts("en");
     return ui::runAskPass({.argc = argc,
                            .argv = argv,
                            .resourceFolder = resources->folder(),

@@ -29,7 +29,7 @@ int main(int argc, char** argv) {
     const char* appearance = std::getenv("SCRIVEL_APPEARANCE");
     const bool dark = appearance && std::string_view(appearance) == "dark";
     const stage::Surroundings surroundings;
-    const stage::TableTexts texts("en");
+    const ui::TranslatedTexts texts = stage::shippedTexts("en");
     const stage::Resources resources;
     stage::PipeQueue queue;
     ui::GuiFrontEnd frontEnd({.argc = argc,

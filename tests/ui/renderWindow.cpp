@@ -50,7 +50,7 @@ int main(int argc, char** argv) {
     const bool firstPaint = argc > 1 && std::string_view(argv[1]) == "--first-paint";
     const std::string language = argc > 2 ? argv[2] : "en";
     const stage::Surroundings surroundings;
-    const stage::TableTexts texts(language);
+    const ui::TranslatedTexts texts = stage::shippedTexts(language);
     const stage::Resources resources;
     stage::PipeQueue queue;
     const std::string suffix = language == "en" ? std::string() : '-' + language;

@@ -17,7 +17,7 @@ struct Unit {
     std::uint64_t from;
     double bytes;
     int digits;
-    const char* key;
+    ports::TextKey key;
 };
 
 constexpr Unit kUnits[] = {

@@ -1,0 +1,3 @@
+#include "platform/ports/LocalizedTexts.h"
+
+constexpr ports::TextKey kText = "Cancle"; // must not compile: the catalogue lacks it
