@@ -42,15 +42,20 @@ Adapters::Adapters(const CommandLine& options, std::optional<bool> authorize)
     : places(placesOf(options)), bundles(ownExecutable()),
       texts(options.unattended ? std::make_unique<posix::EnglishTexts>(bundles.mainResourceFolder())
                                : makeTexts(bundles.mainResourceFolder(), preferredLanguages())),
-      events(clock, mainQueue), spawnedTools({.ownToolsFolder = folderOf(bundles.mainExecutable()),
-                                              .progress =
-                                                  [this](const ports::ToolProgress& progress) {
-                                                      mainQueue.post([this, progress] {
-                                                          if (showProgress)
-                                                              showProgress(progress);
-                                                      });
-                                                  },
-                                              .outputToError = options.events}),
+      events(clock, mainQueue),
+      spawnedTools({.ownToolsFolder = folderOf(bundles.mainExecutable()),
+                    .progress =
+                        [this](const ports::ToolProgress& progress) {
+                            mainQueue.post([this, progress] {
+                                if (showProgress)
+                                    showProgress(progress);
+                            });
+                        },
+                    .whileWaiting = options.unattended ? nullptr : std::function<void()>([this] {
+                        if (keepAlive)
+                            keepAlive();
+                    }),
+                    .outputToError = options.events}),
       tools(spawnedTools, events),
       systemAdministrator(makeAdministrator(folderOf(bundles.mainExecutable()),
                                             options.unattended ? "" : "scrivel-askpass")),

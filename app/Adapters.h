@@ -42,6 +42,8 @@ struct Adapters {
     EventStream events;
     /// Told on the main thread what a tool of our own reports; set by whoever shows it.
     std::function<void(const ports::ToolProgress&)> showProgress;
+    /// Called while a tool is waited for; set by whoever has a window to keep alive.
+    std::function<void()> keepAlive;
     posix::SpawnedTools spawnedTools;
     ObservedTools tools;
     std::unique_ptr<ports::Administrator> systemAdministrator;

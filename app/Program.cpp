@@ -52,6 +52,8 @@ Program::Program(const CommandLine& options, AnswersFile answers, int& argc, cha
              .watchers = eventWatchers(m_adapters.events)},
       m_rules(ec::ecRules::mainRules(m_adapters.bundles.mainResourceFolder())),
       m_root(ec::ecItem::rootItem(m_rules)) {
+    if (m_window)
+        m_adapters.keepAlive = m_window->keepAlive();
     m_adapters.showProgress = [this](const ports::ToolProgress& progress) {
         if (m_hooks.showProgress)
             m_hooks.showProgress(progress);

@@ -2,6 +2,7 @@
 // none: WindowFrontEnd.none.cpp stands in for WindowFrontEnd.qt.cpp.
 #pragma once
 
+#include <functional>
 #include <memory>
 #include <string>
 #include <string_view>
@@ -30,6 +31,8 @@ class WindowFrontEnd {
 
     virtual ~WindowFrontEnd() = default;
     virtual FrontEndPorts ports() = 0;
+    /// To be called again and again while the main thread waits for a tool.
+    virtual std::function<void()> keepAlive() = 0;
 };
 
 /// Said when there is nothing to show a window on, with how to go on.

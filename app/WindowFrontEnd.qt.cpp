@@ -32,6 +32,7 @@ class GuiWindow final : public WindowFrontEnd {
         return {m_gui.interfaceFiles(), m_gui.alertSheets(), m_gui.modalLoop(), m_gui.appearance(),
                 m_gui.fileChoosers(),   m_gui.reader(),      m_gui.beeper()};
     }
+    std::function<void()> keepAlive() override { return m_gui.keepAlive(); }
 
   private:
     ui::GuiFrontEnd m_gui;

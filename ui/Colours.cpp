@@ -77,6 +77,11 @@ QColor toQColor(const controls::Colour& colour) {
                             static_cast<float>(colour.blue), static_cast<float>(colour.alpha));
 }
 
+QColor linkColour(const QPalette& palette) {
+    // the accent that stands alone is too light for words on white
+    return palette.color(QPalette::Active, isDark(palette) ? QPalette::Link : QPalette::Highlight);
+}
+
 QColor outline(const QPalette& palette) {
     return QColor(isDark(palette) ? kDark.outline : kLight.outline);
 }

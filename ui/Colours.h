@@ -25,6 +25,9 @@ QPalette paletteFor(bool dark);
 /// Of what is only an outline: an empty check box, the slider of a scroll bar.
 QColor outline(const QPalette& palette);
 
+/// A link among the words of a text.
+QColor linkColour(const QPalette& palette);
+
 /// The faces of a button.
 struct ButtonFaces {
     QColor rest;

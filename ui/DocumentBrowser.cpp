@@ -10,6 +10,7 @@
 #include <QShortcut>
 #include <QStringDecoder>
 
+#include "ui/Colours.h"
 #include "ui/FindBar.h"
 #include "ui/StyledHtml.h"
 #include "ui/Texts.h"
@@ -23,7 +24,7 @@ constexpr qreal kMargin = 16;
 QString styleSheetFor(const QPalette& palette) {
     const QString text = palette.color(QPalette::Text).name();
     const QString line = palette.color(QPalette::Mid).name();
-    const QString link = palette.color(QPalette::Link).name();
+    const QString link = linkColour(palette).name();
     return QStringLiteral("body { color: %1; line-height: 130%; }"
                           "a { color: %2; text-decoration: underline; }"
                           "h1 { font-size: 17pt; font-weight: 600; margin: 4px 0 10px 0; }"

@@ -4,6 +4,7 @@
 
 #include <QCoreApplication>
 #include <QFile>
+#include <QLabel>
 #include <QLayout>
 #include <QMenuBar>
 #include <QUiLoader>
@@ -58,6 +59,19 @@ class Loader final : public QUiLoader {
     }
 };
 
+/// Labels stand where their reader begins to read, also those whose words are in a script of the
+/// other direction: a product's name, a path. The toolkit would go by the words.
+void alignLabels(const QDialog& dialog) {
+    if (dialog.layoutDirection() != Qt::RightToLeft)
+        return;
+    for (QLabel* label : dialog.findChildren<QLabel*>()) {
+        const Qt::Alignment across = label->alignment() & Qt::AlignHorizontal_Mask;
+        if (across == Qt::AlignLeft)
+            label->setAlignment((label->alignment() & ~across) | Qt::AlignRight |
+                                Qt::AlignAbsolute);
+    }
+}
+
 } // namespace
 
 std::unique_ptr<QDialog> dialogFrom(const QString& path) {
@@ -71,6 +85,7 @@ std::unique_ptr<QDialog> dialogFrom(const QString& path) {
     std::ignore = widget.release();
     if (auto* menus = dialog->findChild<QMenuBar*>(); menus && dialog->layout())
         dialog->layout()->setMenuBar(menus);
+    alignLabels(*dialog);
     return std::unique_ptr<QDialog>(dialog);
 }
 

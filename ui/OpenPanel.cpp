@@ -88,8 +88,8 @@ OpenPanel::OpenPanel(const ports::Chooser& chooser, const QString& start, QWidge
         setProxyModel(
             new OfferedOnly([this](const QFileInfo& file) { return isOffered(file); }, this));
     setLabelText(LookIn, localized(needs.texts, "Look in:"));
-    setLabelText(FileName, localized(needs.texts, m_wantsFolder ? ports::TextKey("Folder:")
-                                                                 : ports::TextKey("Application:")));
+    setLabelText(FileName, m_wantsFolder ? localized(needs.texts, "Folder:")
+                                         : localized(needs.texts, "Application:"));
     setLabelText(Accept, localized(needs.texts, "Choose"));
     setLabelText(Reject, localized(needs.texts, "Cancel"));
     connect(this, &QFileDialog::directoryEntered, this, [this](const QString& folder) {

@@ -12,23 +12,6 @@
 
 namespace ui {
 
-namespace {
-
-/// Labels stand where their reader begins to read, also those whose words are in a script of the
-/// other direction: a product's name, a path. The toolkit would go by the words.
-void alignLabels(const QDialog& dialog) {
-    if (dialog.layoutDirection() != Qt::RightToLeft)
-        return;
-    for (QLabel* label : dialog.findChildren<QLabel*>()) {
-        const Qt::Alignment across = label->alignment() & Qt::AlignHorizontal_Mask;
-        if (across == Qt::AlignLeft)
-            label->setAlignment((label->alignment() & ~across) | Qt::AlignRight |
-                                Qt::AlignAbsolute);
-    }
-}
-
-} // namespace
-
 /// One interface file with its bindings; they die before the widgets.
 class UiFiles::Loaded {
   public:
@@ -74,7 +57,6 @@ bool UiFiles::load(std::string_view name, controls::Interface& outlets) {
         }))
         return false;
 
-    alignLabels(*dialog);
     for (PictureView* view : dialog->findChildren<PictureView*>())
         if (!outlets.find(view->objectName().toStdString()))
             view->showFrom(m_needs.pictures);

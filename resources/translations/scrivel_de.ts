@@ -162,19 +162,19 @@
 <message><source>Scrivel 21 commands in the Services menu of other applications</source><translation type="unfinished"></translation></message>
 <message><source>Browser extension</source><translation type="unfinished"></translation></message>
 <message><source>Tessaron for Google Chrome: collects references from web pages</source><translation type="unfinished"></translation></message>
-<message><source>Not found</source><translation type="unfinished"></translation></message>
-<message><source>Find</source><translation type="unfinished"></translation></message>
-<message><source>Find Previous</source><translation type="unfinished"></translation></message>
-<message><source>Find Next</source><translation type="unfinished"></translation></message>
-<message><source>Close</source><translation type="unfinished"></translation></message>
-<message><source>%@, not selected</source><translation type="unfinished"></translation></message>
-<message><source>%@, not available</source><translation type="unfinished"></translation></message>
-<message><source>%@, selected</source><translation type="unfinished"></translation></message>
-<message><source>%@, partly selected</source><translation type="unfinished"></translation></message>
-<message><source>The text at %@ can’t be read. Download the installer again and start it from there.</source><translation type="unfinished"></translation></message>
-<message><source>Look in:</source><translation type="unfinished"></translation></message>
-<message><source>Folder:</source><translation type="unfinished"></translation></message>
-<message><source>Application:</source><translation type="unfinished"></translation></message>
-<message><source>Choose</source><translation type="unfinished"></translation></message>
+<message><source>Not found</source><translation>Nicht gefunden</translation></message>
+<message><source>Find</source><translation>Suchen</translation></message>
+<message><source>Find Previous</source><translation>Rückwärts suchen</translation></message>
+<message><source>Find Next</source><translation>Weitersuchen</translation></message>
+<message><source>Close</source><translation>Schließen</translation></message>
+<message><source>%@, not selected</source><translation>%@, nicht ausgewählt</translation></message>
+<message><source>%@, not available</source><translation>%@, nicht verfügbar</translation></message>
+<message><source>%@, selected</source><translation>%@, ausgewählt</translation></message>
+<message><source>%@, partly selected</source><translation>%@, teilweise ausgewählt</translation></message>
+<message><source>The text at %@ can’t be read. Download the installer again and start it from there.</source><translation>Der Text unter %@ kann nicht gelesen werden. Laden Sie das Installationsprogramm erneut und starten Sie es von dort.</translation></message>
+<message><source>Look in:</source><translation>Suchen in:</translation></message>
+<message><source>Folder:</source><translation>Ordner:</translation></message>
+<message><source>Application:</source><translation>Programm:</translation></message>
+<message><source>Choose</source><translation>Auswählen</translation></message>
 </context>
 </TS>

@@ -162,19 +162,19 @@
 <message><source>Scrivel 21 commands in the Services menu of other applications</source><translation type="unfinished"></translation></message>
 <message><source>Browser extension</source><translation type="unfinished"></translation></message>
 <message><source>Tessaron for Google Chrome: collects references from web pages</source><translation type="unfinished"></translation></message>
-<message><source>Not found</source><translation type="unfinished"></translation></message>
-<message><source>Find</source><translation type="unfinished"></translation></message>
-<message><source>Find Previous</source><translation type="unfinished"></translation></message>
-<message><source>Find Next</source><translation type="unfinished"></translation></message>
-<message><source>Close</source><translation type="unfinished"></translation></message>
-<message><source>%@, not selected</source><translation type="unfinished"></translation></message>
-<message><source>%@, not available</source><translation type="unfinished"></translation></message>
-<message><source>%@, selected</source><translation type="unfinished"></translation></message>
-<message><source>%@, partly selected</source><translation type="unfinished"></translation></message>
-<message><source>The text at %@ can’t be read. Download the installer again and start it from there.</source><translation type="unfinished"></translation></message>
-<message><source>Look in:</source><translation type="unfinished"></translation></message>
-<message><source>Folder:</source><translation type="unfinished"></translation></message>
-<message><source>Application:</source><translation type="unfinished"></translation></message>
-<message><source>Choose</source><translation type="unfinished"></translation></message>
+<message><source>Not found</source><translation>No encontrado</translation></message>
+<message><source>Find</source><translation>Buscar</translation></message>
+<message><source>Find Previous</source><translation>Buscar anterior</translation></message>
+<message><source>Find Next</source><translation>Buscar siguiente</translation></message>
+<message><source>Close</source><translation>Cerrar</translation></message>
+<message><source>%@, not selected</source><translation>%@, no seleccionado</translation></message>
+<message><source>%@, not available</source><translation>%@, no disponible</translation></message>
+<message><source>%@, selected</source><translation>%@, seleccionado</translation></message>
+<message><source>%@, partly selected</source><translation>%@, parcialmente seleccionado</translation></message>
+<message><source>The text at %@ can’t be read. Download the installer again and start it from there.</source><translation>No se puede leer el texto de %@. Descargue de nuevo el instalador e inícielo desde allí.</translation></message>
+<message><source>Look in:</source><translation>Buscar en:</translation></message>
+<message><source>Folder:</source><translation>Carpeta:</translation></message>
+<message><source>Application:</source><translation>Aplicación:</translation></message>
+<message><source>Choose</source><translation>Elegir</translation></message>
 </context>
 </TS>

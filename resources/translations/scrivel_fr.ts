@@ -162,19 +162,19 @@
 <message><source>Scrivel 21 commands in the Services menu of other applications</source><translation type="unfinished"></translation></message>
 <message><source>Browser extension</source><translation type="unfinished"></translation></message>
 <message><source>Tessaron for Google Chrome: collects references from web pages</source><translation type="unfinished"></translation></message>
-<message><source>Not found</source><translation type="unfinished"></translation></message>
-<message><source>Find</source><translation type="unfinished"></translation></message>
-<message><source>Find Previous</source><translation type="unfinished"></translation></message>
-<message><source>Find Next</source><translation type="unfinished"></translation></message>
-<message><source>Close</source><translation type="unfinished"></translation></message>
-<message><source>%@, not selected</source><translation type="unfinished"></translation></message>
-<message><source>%@, not available</source><translation type="unfinished"></translation></message>
-<message><source>%@, selected</source><translation type="unfinished"></translation></message>
-<message><source>%@, partly selected</source><translation type="unfinished"></translation></message>
-<message><source>The text at %@ can’t be read. Download the installer again and start it from there.</source><translation type="unfinished"></translation></message>
-<message><source>Look in:</source><translation type="unfinished"></translation></message>
-<message><source>Folder:</source><translation type="unfinished"></translation></message>
-<message><source>Application:</source><translation type="unfinished"></translation></message>
-<message><source>Choose</source><translation type="unfinished"></translation></message>
+<message><source>Not found</source><translation>Introuvable</translation></message>
+<message><source>Find</source><translation>Rechercher</translation></message>
+<message><source>Find Previous</source><translation>Rechercher le précédent</translation></message>
+<message><source>Find Next</source><translation>Rechercher le suivant</translation></message>
+<message><source>Close</source><translation>Fermer</translation></message>
+<message><source>%@, not selected</source><translation>%@, non sélectionné</translation></message>
+<message><source>%@, not available</source><translation>%@, non disponible</translation></message>
+<message><source>%@, selected</source><translation>%@, sélectionné</translation></message>
+<message><source>%@, partly selected</source><translation>%@, partiellement sélectionné</translation></message>
+<message><source>The text at %@ can’t be read. Download the installer again and start it from there.</source><translation>Le texte %@ ne peut pas être lu. Téléchargez à nouveau le programme d’installation et lancez-le.</translation></message>
+<message><source>Look in:</source><translation>Rechercher dans :</translation></message>
+<message><source>Folder:</source><translation>Dossier :</translation></message>
+<message><source>Application:</source><translation>Application :</translation></message>
+<message><source>Choose</source><translation>Choisir</translation></message>
 </context>
 </TS>

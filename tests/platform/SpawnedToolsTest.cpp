@@ -6,11 +6,13 @@
 #include <cstdlib>
 #include <fcntl.h>
 #include <filesystem>
+#include <fstream>
 #include <gtest/gtest.h>
 #include <iterator>
 #include <stdexcept>
 #include <string>
 #include <sys/resource.h>
+#include <sys/stat.h>
 #include <sys/wait.h>
 #include <thread>
 #include <unistd.h>
@@ -239,6 +241,21 @@ TEST_F(ToolsTest, WithTooFewDescriptorsLeftTheToolCannotStartAndNothingStaysOpen
     ASSERT_EQ(::setrlimit(RLIMIT_NOFILE, &before), 0);
     EXPECT_EQ(status, SpawnedTools::kCannotStart);
     EXPECT_FALSE(called);
+}
+
+TEST_F(ToolsTest, WhileAToolIsWaitedForThePlatformIsServedAndOnceMoreWhenItHasEnded) {
+    const std::string gate = folder.path("gate");
+    ASSERT_EQ(::mkfifo(gate.c_str(), 0600), 0);
+    int calls = 0;
+    SpawnedTools waiting({.whileWaiting = [&] {
+        if (++calls == 3) // until then the tool waits to be let through
+            std::ofstream(gate) << "go";
+    }});
+    EXPECT_EQ(waiting.run({"/bin/cat", {gate}}), 0);
+    EXPECT_GE(calls, 4);
+    calls = 0;
+    EXPECT_EQ(waiting.capture({"/bin/cat", {gate}}).output, "go");
+    EXPECT_GE(calls, 4);
 }
 
 TEST_F(ToolsTest, TenThousandRunsLeaveNoDescriptorAndNoChild) {

@@ -8,6 +8,7 @@
 #include "tests/ui/Stage.h"
 #include "ui/Colours.h"
 #include "ui/IcnsFile.h"
+#include "ui/Indicators.h"
 #include "ui/Pictures.h"
 #include "ui/Theme.h"
 
@@ -69,6 +70,41 @@ TEST_P(EveryAppearance, PutsATitleOfItsOwnColourOnAFaceThatSuitsIt) {
 
 TEST_P(EveryAppearance, ShowsProgressThatStandsOut) {
     EXPECT_GE(contrast(colour(QPalette::Link), colour(QPalette::Window)), 3);
+}
+
+TEST_P(EveryAppearance, ShowsBoxesRingsAndSlidersThatStandOut) {
+    for (const auto ground : {QPalette::Window, QPalette::Base}) {
+        EXPECT_GE(contrast(ui::outline(palette), colour(ground)), ui::kVisible) << int(ground);
+        EXPECT_GE(contrast(colour(QPalette::Link), colour(ground)), ui::kVisible) << int(ground);
+        EXPECT_GE(contrast(colour(QPalette::Highlight), colour(ground)), ui::kVisible)
+            << int(ground);
+    }
+    // a mark on the accent, and the box of a selected row
+    EXPECT_GE(contrast(Qt::white, colour(QPalette::Highlight)), kLegible);
+    EXPECT_GE(contrast(colour(QPalette::HighlightedText), colour(QPalette::Highlight)), kLegible);
+}
+
+TEST_P(EveryAppearance, HasLinksInTextsThatAreLegible) {
+    EXPECT_GE(contrast(ui::linkColour(palette), colour(QPalette::Base)), kLegible);
+}
+
+TEST_P(EveryAppearance, DrawsEveryStateOfABoxDifferently) {
+    std::vector<QImage> pictures;
+    for (const auto state : {QStyle::State_Off, QStyle::State_On, QStyle::State_NoChange})
+        for (const auto selected : {QStyle::State_None, QStyle::State_Selected})
+            for (const auto enabled : {QStyle::State_None, QStyle::State_Enabled}) {
+                QImage picture(20, 20, QImage::Format_ARGB32_Premultiplied);
+                picture.fill(colour(selected ? QPalette::Highlight : QPalette::Base));
+                QStyleOption option;
+                option.rect = picture.rect();
+                option.palette = palette;
+                option.state = state | selected | enabled;
+                QPainter painter(&picture);
+                ui::drawIndicator(ui::Indicator::checkBox, option, painter);
+                painter.end();
+                EXPECT_THAT(pictures, testing::Not(testing::Contains(picture)));
+                pictures.push_back(picture);
+            }
 }
 
 TEST_P(EveryAppearance, DrawsABlackTitleLegibly) {

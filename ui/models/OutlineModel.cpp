@@ -190,9 +190,10 @@ QString OutlineModel::described(Node& node) const {
     ports::TextKey key = "%@, not selected";
     if (!m_view->checkCell(node.item).enabled)
         key = "%@, not available";
-    else if (const Qt::CheckState state = checkState(node); state != Qt::Unchecked)
-        key = state == Qt::Checked ? ports::TextKey("%@, selected")
-                                   : ports::TextKey("%@, partly selected");
+    else if (const Qt::CheckState state = checkState(node); state == Qt::Checked)
+        key = "%@, selected";
+    else if (state == Qt::PartiallyChecked)
+        key = "%@, partly selected";
     return localized(m_texts, key, {text(node, m_nameColumn)});
 }
 
