@@ -27,141 +27,141 @@
 <message><source>%@ GB of %@ GB</source><translation>%@ GB von %@ GB</translation></message>
 <message><source>The installer of %@ needs administrator rights.</source><translation>Das Installationsprogramm von %@ benötigt Administratorrechte.</translation></message>
 <message><source>Password:</source><translation>Passwort:</translation></message>
-<message><source>Welcome</source><translation type="unfinished"></translation></message>
-<message><source>Read Me</source><translation type="unfinished"></translation></message>
-<message><source>License</source><translation type="unfinished"></translation></message>
-<message><source>Customization</source><translation type="unfinished"></translation></message>
-<message><source>Updating System</source><translation type="unfinished"></translation></message>
-<message><source>Summary</source><translation type="unfinished"></translation></message>
-<message><source>Finding Scrivel</source><translation type="unfinished"></translation></message>
-<message><source>Found Scrivel</source><translation type="unfinished"></translation></message>
-<message><source>Welcome to Scrivel 21</source><translation type="unfinished"></translation></message>
-<message><source>End User License Agreement</source><translation type="unfinished"></translation></message>
-<message><source>Select Components</source><translation type="unfinished"></translation></message>
-<message><source>Thank you for using Scrivel 21</source><translation type="unfinished"></translation></message>
-<message><source>Finish</source><translation type="unfinished"></translation></message>
-<message><source>Uninstall Scrivel 21</source><translation type="unfinished"></translation></message>
-<message><source>Welcome to Scrivel 21 Update</source><translation type="unfinished"></translation></message>
-<message><source>Penmark for Microsoft Word</source><translation type="unfinished"></translation></message>
-<message><source>Scrivel Penmark Configuration</source><translation type="unfinished"></translation></message>
-<message><source>Welcome to Scrivel Penmark</source><translation type="unfinished"></translation></message>
-<message><source>Continue</source><translation type="unfinished"></translation></message>
-<message><source>Next</source><translation type="unfinished"></translation></message>
-<message><source>Done</source><translation type="unfinished"></translation></message>
-<message><source>Exit</source><translation type="unfinished"></translation></message>
-<message><source>Retry</source><translation type="unfinished"></translation></message>
-<message><source>Scrivel 21 Installer</source><translation type="unfinished"></translation></message>
-<message><source>Uninstall will remove Scrivel Penmark from your computer.  Are you sure you want to do this?</source><translation type="unfinished"></translation></message>
-<message><source>Uninstall will remove all external Scrivel components from your computer.  Are you sure you want to do this?</source><translation type="unfinished"></translation></message>
-<message><source>Back</source><translation type="unfinished"></translation></message>
-<message><source>%@ Customizer</source><translation type="unfinished"></translation></message>
-<message><source>%@ was removed.</source><translation type="unfinished"></translation></message>
-<message><source>%@ could not be removed.</source><translation type="unfinished"></translation></message>
-<message><source>%@ was installed.</source><translation type="unfinished"></translation></message>
-<message><source>%@ could not be installed.</source><translation type="unfinished"></translation></message>
-<message><source>The text “%@” is missing from this copy of the installer. Get a complete copy to read it.</source><translation type="unfinished"></translation></message>
-<message><source>Help</source><translation type="unfinished"></translation></message>
-<message><source>Install Log</source><translation type="unfinished"></translation></message>
-<message><source>The install log is empty.</source><translation type="unfinished"></translation></message>
-<message><source>Nothing was changed.</source><translation type="unfinished"></translation></message>
-<message><source>Steps</source><translation type="unfinished"></translation></message>
-<message><source>Looking at what is installed on this computer…</source><translation type="unfinished"></translation></message>
-<message><source>Search progress</source><translation type="unfinished"></translation></message>
-<message><source>This can take a moment.</source><translation type="unfinished"></translation></message>
-<message><source>Please read the license agreement. To continue, you need to agree to it.</source><translation type="unfinished"></translation></message>
-<message><source>License agreement</source><translation type="unfinished"></translation></message>
-<message><source>Answer to the license agreement</source><translation type="unfinished"></translation></message>
-<message><source>Agree</source><translation type="unfinished"></translation></message>
-<message><source>Disagree</source><translation type="unfinished"></translation></message>
-<message><source>Select the components that you want to use. Cleared components are removed.</source><translation type="unfinished"></translation></message>
-<message><source>Components</source><translation type="unfinished"></translation></message>
-<message><source>Component</source><translation type="unfinished"></translation></message>
-<message><source>Installed</source><translation type="unfinished"></translation></message>
-<message><source>Description</source><translation type="unfinished"></translation></message>
-<message><source>Uninstall…</source><translation type="unfinished"></translation></message>
-<message><source>Removes all components from this computer</source><translation type="unfinished"></translation></message>
-<message><source>This is the result of the installation. The log holds every step.</source><translation type="unfinished"></translation></message>
-<message><source>Result of the installation</source><translation type="unfinished"></translation></message>
-<message><source>This is the result for the components that you selected. The log holds every step.</source><translation type="unfinished"></translation></message>
-<message><source>Result of the change</source><translation type="unfinished"></translation></message>
-<message><source>All components of Scrivel 21 outside its own folder will be removed from this computer: the Penmark add-in for Microsoft Word, the Spotlight importer, the Services and the browser extension.</source><translation type="unfinished"></translation></message>
-<message><source>Your libraries and documents stay where they are.</source><translation type="unfinished"></translation></message>
-<message><source>Update progress</source><translation type="unfinished"></translation></message>
-<message><source>Please leave the computer switched on and do not quit the installer until this is finished.</source><translation type="unfinished"></translation></message>
-<message><source>This is the result of the uninstallation. The log holds every step.</source><translation type="unfinished"></translation></message>
-<message><source>Result of the uninstallation</source><translation type="unfinished"></translation></message>
-<message><source>Quit Microsoft Word, then click Retry.</source><translation type="unfinished"></translation></message>
-<message><source>Microsoft Word is open. Its add-ins can only be changed while it is closed. Save your documents in Word before you quit it.</source><translation type="unfinished"></translation></message>
-<message><source>Spotlight and Services</source><translation type="unfinished"></translation></message>
-<message><source>Choose who can use the components that you have just selected.</source><translation type="unfinished"></translation></message>
-<message><source>Spotlight: find your Scrivel documents with the search of the system</source><translation type="unfinished"></translation></message>
-<message><source>Who can use the Spotlight importer</source><translation type="unfinished"></translation></message>
-<message><source>Only for me</source><translation type="unfinished"></translation></message>
-<message><source>Goes into the Library folder of your home folder.</source><translation type="unfinished"></translation></message>
-<message><source>For all users of this computer</source><translation type="unfinished"></translation></message>
-<message><source>Goes into the computer’s Library folder. An administrator password may be asked for.</source><translation type="unfinished"></translation></message>
-<message><source>Services: use Scrivel from the Services menu of other applications</source><translation type="unfinished"></translation></message>
-<message><source>Who can use the Services</source><translation type="unfinished"></translation></message>
-<message><source>This is the result of the update, copy by copy. The log holds every step.</source><translation type="unfinished"></translation></message>
-<message><source>Result of the update</source><translation type="unfinished"></translation></message>
-<message><source>There is no copy of Scrivel 21 that this update fits.</source><translation type="unfinished"></translation></message>
-<message><source>Nothing was changed on this computer. A copy that is already up to date, or that was altered, is not offered; the log names every copy that was looked at.</source><translation type="unfinished"></translation></message>
-<message><source>The add-in goes into the startup folder of each copy and is loaded when Word is opened the next time.</source><translation type="unfinished"></translation></message>
-<message><source>These are the copies of Microsoft Word that get the Penmark add-in. Add a copy that is missing, or change the startup folder of one.</source><translation type="unfinished"></translation></message>
-<message><source>Copies of Microsoft Word</source><translation type="unfinished"></translation></message>
-<message><source>Word</source><translation type="unfinished"></translation></message>
-<message><source>Startup Folder</source><translation type="unfinished"></translation></message>
-<message><source>Version</source><translation type="unfinished"></translation></message>
-<message><source>Adds a copy of Word and its startup folder</source><translation type="unfinished"></translation></message>
-<message><source>Add</source><translation type="unfinished"></translation></message>
-<message><source>Removes the add-in from the selected folder and forgets the folder</source><translation type="unfinished"></translation></message>
-<message><source>Remove</source><translation type="unfinished"></translation></message>
-<message><source>Change…</source><translation type="unfinished"></translation></message>
-<message><source>Chooses another startup folder for the selected copy</source><translation type="unfinished"></translation></message>
-<message><source>Reset</source><translation type="unfinished"></translation></message>
-<message><source>Forgets the folder that you chose for the selected copy</source><translation type="unfinished"></translation></message>
-<message><source>Penmark is the add-in of Scrivel for Microsoft Word. While you write, it inserts citations from your library and builds the bibliography in the style that you choose.</source><translation type="unfinished"></translation></message>
-<message><source>What to do with Penmark</source><translation type="unfinished"></translation></message>
-<message><source>Install Penmark</source><translation type="unfinished"></translation></message>
-<message><source>Puts the add-in into the startup folder of every copy of Word on this computer.</source><translation type="unfinished"></translation></message>
-<message><source>Uninstall Penmark</source><translation type="unfinished"></translation></message>
-<message><source>Removes the add-in from Word. Your documents and their citations stay as they are.</source><translation type="unfinished"></translation></message>
-<message><source>Quit Microsoft Word before you continue.</source><translation type="unfinished"></translation></message>
-<message><source>This is the result for Scrivel Penmark. The log holds every step.</source><translation type="unfinished"></translation></message>
-<message><source>Result for Scrivel Penmark</source><translation type="unfinished"></translation></message>
-<message><source>This is the result of removing Scrivel Penmark. The log holds every step.</source><translation type="unfinished"></translation></message>
-<message><source>Result of removing Scrivel Penmark</source><translation type="unfinished"></translation></message>
-<message><source>Show Log</source><translation type="unfinished"></translation></message>
-<message><source>Installer</source><translation type="unfinished"></translation></message>
-<message><source>Customize…</source><translation type="unfinished"></translation></message>
-<message><source>Install Penmark…</source><translation type="unfinished"></translation></message>
-<message><source>Update Installed Copies…</source><translation type="unfinished"></translation></message>
-<message><source>Microsoft Word integration</source><translation type="unfinished"></translation></message>
-<message><source>Work with your references while you write</source><translation type="unfinished"></translation></message>
-<message><source>Penmark add-in</source><translation type="unfinished"></translation></message>
-<message><source>Penmark for Microsoft Word: citations and bibliographies in your documents</source><translation type="unfinished"></translation></message>
-<message><source>Content categories</source><translation type="unfinished"></translation></message>
-<message><source>Import filters for databases and library catalogues, by subject</source><translation type="unfinished"></translation></message>
-<message><source>Chemistry</source><translation type="unfinished"></translation></message>
-<message><source>Import filters for chemistry</source><translation type="unfinished"></translation></message>
-<message><source>Economics</source><translation type="unfinished"></translation></message>
-<message><source>Import filters for economics</source><translation type="unfinished"></translation></message>
-<message><source>History</source><translation type="unfinished"></translation></message>
-<message><source>Import filters for history</source><translation type="unfinished"></translation></message>
-<message><source>Law</source><translation type="unfinished"></translation></message>
-<message><source>Import filters for law</source><translation type="unfinished"></translation></message>
-<message><source>Medicine</source><translation type="unfinished"></translation></message>
-<message><source>Import filters for medicine</source><translation type="unfinished"></translation></message>
-<message><source>Physics</source><translation type="unfinished"></translation></message>
-<message><source>Import filters for physics</source><translation type="unfinished"></translation></message>
-<message><source>System integration</source><translation type="unfinished"></translation></message>
-<message><source>Scrivel 21 in the rest of your system</source><translation type="unfinished"></translation></message>
-<message><source>Spotlight importer</source><translation type="unfinished"></translation></message>
-<message><source>Spotlight finds the references in your libraries</source><translation type="unfinished"></translation></message>
-<message><source>Services</source><translation type="unfinished"></translation></message>
-<message><source>Scrivel 21 commands in the Services menu of other applications</source><translation type="unfinished"></translation></message>
-<message><source>Browser extension</source><translation type="unfinished"></translation></message>
-<message><source>Tessaron for Google Chrome: collects references from web pages</source><translation type="unfinished"></translation></message>
+<message><source>Welcome</source><translation>Willkommen</translation></message>
+<message><source>Read Me</source><translation>Bitte lesen</translation></message>
+<message><source>License</source><translation>Lizenz</translation></message>
+<message><source>Customization</source><translation>Anpassung</translation></message>
+<message><source>Updating System</source><translation>System wird aktualisiert</translation></message>
+<message><source>Summary</source><translation>Zusammenfassung</translation></message>
+<message><source>Finding Scrivel</source><translation>Suche nach Scrivel</translation></message>
+<message><source>Found Scrivel</source><translation>Scrivel gefunden</translation></message>
+<message><source>Welcome to Scrivel 21</source><translation>Willkommen bei Scrivel 21</translation></message>
+<message><source>End User License Agreement</source><translation>Endbenutzer-Lizenzvertrag</translation></message>
+<message><source>Select Components</source><translation>Komponenten auswählen</translation></message>
+<message><source>Thank you for using Scrivel 21</source><translation>Vielen Dank, dass Sie Scrivel 21 verwenden</translation></message>
+<message><source>Finish</source><translation>Abschluss</translation></message>
+<message><source>Uninstall Scrivel 21</source><translation>Scrivel 21 deinstallieren</translation></message>
+<message><source>Welcome to Scrivel 21 Update</source><translation>Willkommen beim Update von Scrivel 21</translation></message>
+<message><source>Penmark for Microsoft Word</source><translation>Penmark für Microsoft Word</translation></message>
+<message><source>Scrivel Penmark Configuration</source><translation>Konfiguration von Scrivel Penmark</translation></message>
+<message><source>Welcome to Scrivel Penmark</source><translation>Willkommen bei Scrivel Penmark</translation></message>
+<message><source>Continue</source><translation>Fortfahren</translation></message>
+<message><source>Next</source><translation>Weiter</translation></message>
+<message><source>Done</source><translation>Fertig</translation></message>
+<message><source>Exit</source><translation>Beenden</translation></message>
+<message><source>Retry</source><translation>Wiederholen</translation></message>
+<message><source>Scrivel 21 Installer</source><translation>Installationsprogramm von Scrivel 21</translation></message>
+<message><source>Uninstall will remove Scrivel Penmark from your computer.  Are you sure you want to do this?</source><translation>Beim Deinstallieren wird Scrivel Penmark von Ihrem Computer entfernt. Möchten Sie das wirklich tun?</translation></message>
+<message><source>Uninstall will remove all external Scrivel components from your computer.  Are you sure you want to do this?</source><translation>Beim Deinstallieren werden alle externen Komponenten von Scrivel von Ihrem Computer entfernt. Möchten Sie das wirklich tun?</translation></message>
+<message><source>Back</source><translation>Zurück</translation></message>
+<message><source>%@ Customizer</source><translation>%@ Customizer</translation></message>
+<message><source>%@ was removed.</source><translation>%@: erfolgreich entfernt.</translation></message>
+<message><source>%@ could not be removed.</source><translation>%@: Entfernen fehlgeschlagen.</translation></message>
+<message><source>%@ was installed.</source><translation>%@: erfolgreich installiert.</translation></message>
+<message><source>%@ could not be installed.</source><translation>%@: Installation fehlgeschlagen.</translation></message>
+<message><source>The text “%@” is missing from this copy of the installer. Get a complete copy to read it.</source><translation>Der Text „%@“ fehlt in dieser Kopie des Installationsprogramms. Laden Sie eine vollständige Kopie, um ihn zu lesen.</translation></message>
+<message><source>Help</source><translation>Hilfe</translation></message>
+<message><source>Install Log</source><translation>Installationsprotokoll</translation></message>
+<message><source>The install log is empty.</source><translation>Das Installationsprotokoll ist leer.</translation></message>
+<message><source>Nothing was changed.</source><translation>Es wurde nichts verändert.</translation></message>
+<message><source>Steps</source><translation>Schritte</translation></message>
+<message><source>Looking at what is installed on this computer…</source><translation>Es wird geprüft, was auf diesem Computer installiert ist …</translation></message>
+<message><source>Search progress</source><translation>Suchfortschritt</translation></message>
+<message><source>This can take a moment.</source><translation>Das kann einen Moment dauern.</translation></message>
+<message><source>Please read the license agreement. To continue, you need to agree to it.</source><translation>Bitte lesen Sie den Lizenzvertrag. Um fortzufahren, müssen Sie ihm zustimmen.</translation></message>
+<message><source>License agreement</source><translation>Lizenzvertrag</translation></message>
+<message><source>Answer to the license agreement</source><translation>Antwort auf den Lizenzvertrag</translation></message>
+<message><source>Agree</source><translation>Zustimmen</translation></message>
+<message><source>Disagree</source><translation>Ablehnen</translation></message>
+<message><source>Select the components that you want to use. Cleared components are removed.</source><translation>Wählen Sie die Komponenten aus, die Sie verwenden möchten. Komponenten ohne Häkchen werden entfernt.</translation></message>
+<message><source>Components</source><translation>Komponenten</translation></message>
+<message><source>Component</source><translation>Komponente</translation></message>
+<message><source>Installed</source><translation>Installiert</translation></message>
+<message><source>Description</source><translation>Beschreibung</translation></message>
+<message><source>Uninstall…</source><translation>Deinstallieren …</translation></message>
+<message><source>Removes all components from this computer</source><translation>Entfernt alle Komponenten von diesem Computer</translation></message>
+<message><source>This is the result of the installation. The log holds every step.</source><translation>Das ist das Ergebnis der Installation. Im Protokoll steht jeder Schritt.</translation></message>
+<message><source>Result of the installation</source><translation>Ergebnis der Installation</translation></message>
+<message><source>This is the result for the components that you selected. The log holds every step.</source><translation>Das ist das Ergebnis für die Komponenten, die Sie ausgewählt haben. Im Protokoll steht jeder Schritt.</translation></message>
+<message><source>Result of the change</source><translation>Ergebnis der Änderung</translation></message>
+<message><source>All components of Scrivel 21 outside its own folder will be removed from this computer: the Penmark add-in for Microsoft Word, the Spotlight importer, the Services and the browser extension.</source><translation>Alle Komponenten von Scrivel 21 außerhalb seines eigenen Ordners werden von diesem Computer entfernt: das Add-in Penmark für Microsoft Word, der Spotlight-Importer, die Dienste und die Browsererweiterung.</translation></message>
+<message><source>Your libraries and documents stay where they are.</source><translation>Ihre Bibliotheken und Dokumente bleiben, wo sie sind.</translation></message>
+<message><source>Update progress</source><translation>Aktualisierungsfortschritt</translation></message>
+<message><source>Please leave the computer switched on and do not quit the installer until this is finished.</source><translation>Bitte lassen Sie den Computer eingeschaltet und beenden Sie das Installationsprogramm nicht, bis der Vorgang abgeschlossen ist.</translation></message>
+<message><source>This is the result of the uninstallation. The log holds every step.</source><translation>Das ist das Ergebnis der Deinstallation. Im Protokoll steht jeder Schritt.</translation></message>
+<message><source>Result of the uninstallation</source><translation>Ergebnis der Deinstallation</translation></message>
+<message><source>Quit Microsoft Word, then click Retry.</source><translation>Beenden Sie Microsoft Word und klicken Sie dann auf „Wiederholen“.</translation></message>
+<message><source>Microsoft Word is open. Its add-ins can only be changed while it is closed. Save your documents in Word before you quit it.</source><translation>Microsoft Word ist geöffnet. Seine Add-ins können nur geändert werden, solange es geschlossen ist. Sichern Sie Ihre Dokumente in Word, bevor Sie es beenden.</translation></message>
+<message><source>Spotlight and Services</source><translation>Spotlight und Dienste</translation></message>
+<message><source>Choose who can use the components that you have just selected.</source><translation>Wählen Sie, wer die eben ausgewählten Komponenten verwenden kann.</translation></message>
+<message><source>Spotlight: find your Scrivel documents with the search of the system</source><translation>Spotlight: Ihre Scrivel-Dokumente mit der Suche des Systems finden</translation></message>
+<message><source>Who can use the Spotlight importer</source><translation>Wer den Spotlight-Importer verwenden kann</translation></message>
+<message><source>Only for me</source><translation>Nur für mich</translation></message>
+<message><source>Goes into the Library folder of your home folder.</source><translation>Kommt in den Ordner „Library“ Ihres Benutzerordners.</translation></message>
+<message><source>For all users of this computer</source><translation>Für alle Benutzer dieses Computers</translation></message>
+<message><source>Goes into the computer’s Library folder. An administrator password may be asked for.</source><translation>Kommt in den Ordner „Library“ des Computers. Dafür kann das Passwort eines Administrators nötig sein.</translation></message>
+<message><source>Services: use Scrivel from the Services menu of other applications</source><translation>Dienste: Scrivel über das Menü „Dienste“ anderer Programme verwenden</translation></message>
+<message><source>Who can use the Services</source><translation>Wer die Dienste verwenden kann</translation></message>
+<message><source>This is the result of the update, copy by copy. The log holds every step.</source><translation>Das ist das Ergebnis des Updates, Kopie für Kopie. Im Protokoll steht jeder Schritt.</translation></message>
+<message><source>Result of the update</source><translation>Ergebnis des Updates</translation></message>
+<message><source>There is no copy of Scrivel 21 that this update fits.</source><translation>Es gibt keine Kopie von Scrivel 21, für die dieses Update passt.</translation></message>
+<message><source>Nothing was changed on this computer. A copy that is already up to date, or that was altered, is not offered; the log names every copy that was looked at.</source><translation>Auf diesem Computer wurde nichts verändert. Eine Kopie, die bereits aktuell ist oder verändert wurde, wird nicht angeboten; das Protokoll nennt jede geprüfte Kopie.</translation></message>
+<message><source>The add-in goes into the startup folder of each copy and is loaded when Word is opened the next time.</source><translation>Das Add-in kommt in den Startordner jeder Kopie und wird geladen, wenn Word das nächste Mal geöffnet wird.</translation></message>
+<message><source>These are the copies of Microsoft Word that get the Penmark add-in. Add a copy that is missing, or change the startup folder of one.</source><translation>Diese Kopien von Microsoft Word erhalten das Add-in Penmark. Fügen Sie eine fehlende Kopie hinzu oder ändern Sie den Startordner einer Kopie.</translation></message>
+<message><source>Copies of Microsoft Word</source><translation>Kopien von Microsoft Word</translation></message>
+<message><source>Word</source><translation>Word</translation></message>
+<message><source>Startup Folder</source><translation>Startordner</translation></message>
+<message><source>Version</source><translation>Version</translation></message>
+<message><source>Adds a copy of Word and its startup folder</source><translation>Fügt eine Kopie von Word und ihren Startordner hinzu</translation></message>
+<message><source>Add</source><translation>Hinzufügen</translation></message>
+<message><source>Removes the add-in from the selected folder and forgets the folder</source><translation>Entfernt das Add-in aus dem ausgewählten Ordner und vergisst den Ordner</translation></message>
+<message><source>Remove</source><translation>Entfernen</translation></message>
+<message><source>Change…</source><translation>Ändern …</translation></message>
+<message><source>Chooses another startup folder for the selected copy</source><translation>Wählt einen anderen Startordner für die ausgewählte Kopie</translation></message>
+<message><source>Reset</source><translation>Zurücksetzen</translation></message>
+<message><source>Forgets the folder that you chose for the selected copy</source><translation>Vergisst den Ordner, den Sie für die ausgewählte Kopie gewählt haben</translation></message>
+<message><source>Penmark is the add-in of Scrivel for Microsoft Word. While you write, it inserts citations from your library and builds the bibliography in the style that you choose.</source><translation>Penmark ist das Add-in von Scrivel für Microsoft Word. Beim Schreiben fügt es Zitate aus Ihrer Bibliothek ein und erstellt das Literaturverzeichnis in dem Stil, den Sie wählen.</translation></message>
+<message><source>What to do with Penmark</source><translation>Was mit Penmark geschehen soll</translation></message>
+<message><source>Install Penmark</source><translation>Penmark installieren</translation></message>
+<message><source>Puts the add-in into the startup folder of every copy of Word on this computer.</source><translation>Legt das Add-in in den Startordner jeder Kopie von Word auf diesem Computer.</translation></message>
+<message><source>Uninstall Penmark</source><translation>Penmark deinstallieren</translation></message>
+<message><source>Removes the add-in from Word. Your documents and their citations stay as they are.</source><translation>Entfernt das Add-in aus Word. Ihre Dokumente und die Zitate darin bleiben, wie sie sind.</translation></message>
+<message><source>Quit Microsoft Word before you continue.</source><translation>Beenden Sie Microsoft Word, bevor Sie fortfahren.</translation></message>
+<message><source>This is the result for Scrivel Penmark. The log holds every step.</source><translation>Das ist das Ergebnis für Scrivel Penmark. Im Protokoll steht jeder Schritt.</translation></message>
+<message><source>Result for Scrivel Penmark</source><translation>Ergebnis für Scrivel Penmark</translation></message>
+<message><source>This is the result of removing Scrivel Penmark. The log holds every step.</source><translation>Das ist das Ergebnis der Entfernung von Scrivel Penmark. Im Protokoll steht jeder Schritt.</translation></message>
+<message><source>Result of removing Scrivel Penmark</source><translation>Ergebnis der Entfernung von Scrivel Penmark</translation></message>
+<message><source>Show Log</source><translation>Protokoll anzeigen</translation></message>
+<message><source>Installer</source><translation>Installationsprogramm</translation></message>
+<message><source>Customize…</source><translation>Anpassen …</translation></message>
+<message><source>Install Penmark…</source><translation>Penmark installieren …</translation></message>
+<message><source>Update Installed Copies…</source><translation>Installierte Kopien aktualisieren …</translation></message>
+<message><source>Microsoft Word integration</source><translation>Integration in Microsoft Word</translation></message>
+<message><source>Work with your references while you write</source><translation>Beim Schreiben mit Ihren Literaturangaben arbeiten</translation></message>
+<message><source>Penmark add-in</source><translation>Add-in Penmark</translation></message>
+<message><source>Penmark for Microsoft Word: citations and bibliographies in your documents</source><translation>Penmark für Microsoft Word: Zitate und Literaturverzeichnisse in Ihren Dokumenten</translation></message>
+<message><source>Content categories</source><translation>Inhaltskategorien</translation></message>
+<message><source>Import filters for databases and library catalogues, by subject</source><translation>Importfilter für Datenbanken und Bibliothekskataloge, nach Fachgebiet</translation></message>
+<message><source>Chemistry</source><translation>Chemie</translation></message>
+<message><source>Import filters for chemistry</source><translation>Importfilter für Chemie</translation></message>
+<message><source>Economics</source><translation>Wirtschaft</translation></message>
+<message><source>Import filters for economics</source><translation>Importfilter für Wirtschaft</translation></message>
+<message><source>History</source><translation>Geschichte</translation></message>
+<message><source>Import filters for history</source><translation>Importfilter für Geschichte</translation></message>
+<message><source>Law</source><translation>Recht</translation></message>
+<message><source>Import filters for law</source><translation>Importfilter für Recht</translation></message>
+<message><source>Medicine</source><translation>Medizin</translation></message>
+<message><source>Import filters for medicine</source><translation>Importfilter für Medizin</translation></message>
+<message><source>Physics</source><translation>Physik</translation></message>
+<message><source>Import filters for physics</source><translation>Importfilter für Physik</translation></message>
+<message><source>System integration</source><translation>Systemintegration</translation></message>
+<message><source>Scrivel 21 in the rest of your system</source><translation>Scrivel 21 im übrigen System</translation></message>
+<message><source>Spotlight importer</source><translation>Spotlight-Importer</translation></message>
+<message><source>Spotlight finds the references in your libraries</source><translation>Spotlight findet die Literaturangaben in Ihren Bibliotheken</translation></message>
+<message><source>Services</source><translation>Dienste</translation></message>
+<message><source>Scrivel 21 commands in the Services menu of other applications</source><translation>Befehle von Scrivel 21 im Menü „Dienste“ anderer Programme</translation></message>
+<message><source>Browser extension</source><translation>Browsererweiterung</translation></message>
+<message><source>Tessaron for Google Chrome: collects references from web pages</source><translation>Tessaron für Google Chrome: übernimmt Literaturangaben aus Webseiten</translation></message>
 <message><source>Not found</source><translation>Nicht gefunden</translation></message>
 <message><source>Find</source><translation>Suchen</translation></message>
 <message><source>Find Previous</source><translation>Rückwärts suchen</translation></message>

@@ -27,141 +27,141 @@
 <message><source>%@ GB of %@ GB</source><translation>%@ Go sur %@ Go</translation></message>
 <message><source>The installer of %@ needs administrator rights.</source><translation>Le programme d’installation de %@ nécessite des droits d’administrateur.</translation></message>
 <message><source>Password:</source><translation>Mot de passe :</translation></message>
-<message><source>Welcome</source><translation type="unfinished"></translation></message>
-<message><source>Read Me</source><translation type="unfinished"></translation></message>
-<message><source>License</source><translation type="unfinished"></translation></message>
-<message><source>Customization</source><translation type="unfinished"></translation></message>
-<message><source>Updating System</source><translation type="unfinished"></translation></message>
-<message><source>Summary</source><translation type="unfinished"></translation></message>
-<message><source>Finding Scrivel</source><translation type="unfinished"></translation></message>
-<message><source>Found Scrivel</source><translation type="unfinished"></translation></message>
-<message><source>Welcome to Scrivel 21</source><translation type="unfinished"></translation></message>
-<message><source>End User License Agreement</source><translation type="unfinished"></translation></message>
-<message><source>Select Components</source><translation type="unfinished"></translation></message>
-<message><source>Thank you for using Scrivel 21</source><translation type="unfinished"></translation></message>
-<message><source>Finish</source><translation type="unfinished"></translation></message>
-<message><source>Uninstall Scrivel 21</source><translation type="unfinished"></translation></message>
-<message><source>Welcome to Scrivel 21 Update</source><translation type="unfinished"></translation></message>
-<message><source>Penmark for Microsoft Word</source><translation type="unfinished"></translation></message>
-<message><source>Scrivel Penmark Configuration</source><translation type="unfinished"></translation></message>
-<message><source>Welcome to Scrivel Penmark</source><translation type="unfinished"></translation></message>
-<message><source>Continue</source><translation type="unfinished"></translation></message>
-<message><source>Next</source><translation type="unfinished"></translation></message>
-<message><source>Done</source><translation type="unfinished"></translation></message>
-<message><source>Exit</source><translation type="unfinished"></translation></message>
-<message><source>Retry</source><translation type="unfinished"></translation></message>
-<message><source>Scrivel 21 Installer</source><translation type="unfinished"></translation></message>
-<message><source>Uninstall will remove Scrivel Penmark from your computer.  Are you sure you want to do this?</source><translation type="unfinished"></translation></message>
-<message><source>Uninstall will remove all external Scrivel components from your computer.  Are you sure you want to do this?</source><translation type="unfinished"></translation></message>
-<message><source>Back</source><translation type="unfinished"></translation></message>
-<message><source>%@ Customizer</source><translation type="unfinished"></translation></message>
-<message><source>%@ was removed.</source><translation type="unfinished"></translation></message>
-<message><source>%@ could not be removed.</source><translation type="unfinished"></translation></message>
-<message><source>%@ was installed.</source><translation type="unfinished"></translation></message>
-<message><source>%@ could not be installed.</source><translation type="unfinished"></translation></message>
-<message><source>The text “%@” is missing from this copy of the installer. Get a complete copy to read it.</source><translation type="unfinished"></translation></message>
-<message><source>Help</source><translation type="unfinished"></translation></message>
-<message><source>Install Log</source><translation type="unfinished"></translation></message>
-<message><source>The install log is empty.</source><translation type="unfinished"></translation></message>
-<message><source>Nothing was changed.</source><translation type="unfinished"></translation></message>
-<message><source>Steps</source><translation type="unfinished"></translation></message>
-<message><source>Looking at what is installed on this computer…</source><translation type="unfinished"></translation></message>
-<message><source>Search progress</source><translation type="unfinished"></translation></message>
-<message><source>This can take a moment.</source><translation type="unfinished"></translation></message>
-<message><source>Please read the license agreement. To continue, you need to agree to it.</source><translation type="unfinished"></translation></message>
-<message><source>License agreement</source><translation type="unfinished"></translation></message>
-<message><source>Answer to the license agreement</source><translation type="unfinished"></translation></message>
-<message><source>Agree</source><translation type="unfinished"></translation></message>
-<message><source>Disagree</source><translation type="unfinished"></translation></message>
-<message><source>Select the components that you want to use. Cleared components are removed.</source><translation type="unfinished"></translation></message>
-<message><source>Components</source><translation type="unfinished"></translation></message>
-<message><source>Component</source><translation type="unfinished"></translation></message>
-<message><source>Installed</source><translation type="unfinished"></translation></message>
-<message><source>Description</source><translation type="unfinished"></translation></message>
-<message><source>Uninstall…</source><translation type="unfinished"></translation></message>
-<message><source>Removes all components from this computer</source><translation type="unfinished"></translation></message>
-<message><source>This is the result of the installation. The log holds every step.</source><translation type="unfinished"></translation></message>
-<message><source>Result of the installation</source><translation type="unfinished"></translation></message>
-<message><source>This is the result for the components that you selected. The log holds every step.</source><translation type="unfinished"></translation></message>
-<message><source>Result of the change</source><translation type="unfinished"></translation></message>
-<message><source>All components of Scrivel 21 outside its own folder will be removed from this computer: the Penmark add-in for Microsoft Word, the Spotlight importer, the Services and the browser extension.</source><translation type="unfinished"></translation></message>
-<message><source>Your libraries and documents stay where they are.</source><translation type="unfinished"></translation></message>
-<message><source>Update progress</source><translation type="unfinished"></translation></message>
-<message><source>Please leave the computer switched on and do not quit the installer until this is finished.</source><translation type="unfinished"></translation></message>
-<message><source>This is the result of the uninstallation. The log holds every step.</source><translation type="unfinished"></translation></message>
-<message><source>Result of the uninstallation</source><translation type="unfinished"></translation></message>
-<message><source>Quit Microsoft Word, then click Retry.</source><translation type="unfinished"></translation></message>
-<message><source>Microsoft Word is open. Its add-ins can only be changed while it is closed. Save your documents in Word before you quit it.</source><translation type="unfinished"></translation></message>
-<message><source>Spotlight and Services</source><translation type="unfinished"></translation></message>
-<message><source>Choose who can use the components that you have just selected.</source><translation type="unfinished"></translation></message>
-<message><source>Spotlight: find your Scrivel documents with the search of the system</source><translation type="unfinished"></translation></message>
-<message><source>Who can use the Spotlight importer</source><translation type="unfinished"></translation></message>
-<message><source>Only for me</source><translation type="unfinished"></translation></message>
-<message><source>Goes into the Library folder of your home folder.</source><translation type="unfinished"></translation></message>
-<message><source>For all users of this computer</source><translation type="unfinished"></translation></message>
-<message><source>Goes into the computer’s Library folder. An administrator password may be asked for.</source><translation type="unfinished"></translation></message>
-<message><source>Services: use Scrivel from the Services menu of other applications</source><translation type="unfinished"></translation></message>
-<message><source>Who can use the Services</source><translation type="unfinished"></translation></message>
-<message><source>This is the result of the update, copy by copy. The log holds every step.</source><translation type="unfinished"></translation></message>
-<message><source>Result of the update</source><translation type="unfinished"></translation></message>
-<message><source>There is no copy of Scrivel 21 that this update fits.</source><translation type="unfinished"></translation></message>
-<message><source>Nothing was changed on this computer. A copy that is already up to date, or that was altered, is not offered; the log names every copy that was looked at.</source><translation type="unfinished"></translation></message>
-<message><source>The add-in goes into the startup folder of each copy and is loaded when Word is opened the next time.</source><translation type="unfinished"></translation></message>
-<message><source>These are the copies of Microsoft Word that get the Penmark add-in. Add a copy that is missing, or change the startup folder of one.</source><translation type="unfinished"></translation></message>
-<message><source>Copies of Microsoft Word</source><translation type="unfinished"></translation></message>
-<message><source>Word</source><translation type="unfinished"></translation></message>
-<message><source>Startup Folder</source><translation type="unfinished"></translation></message>
-<message><source>Version</source><translation type="unfinished"></translation></message>
-<message><source>Adds a copy of Word and its startup folder</source><translation type="unfinished"></translation></message>
-<message><source>Add</source><translation type="unfinished"></translation></message>
-<message><source>Removes the add-in from the selected folder and forgets the folder</source><translation type="unfinished"></translation></message>
-<message><source>Remove</source><translation type="unfinished"></translation></message>
-<message><source>Change…</source><translation type="unfinished"></translation></message>
-<message><source>Chooses another startup folder for the selected copy</source><translation type="unfinished"></translation></message>
-<message><source>Reset</source><translation type="unfinished"></translation></message>
-<message><source>Forgets the folder that you chose for the selected copy</source><translation type="unfinished"></translation></message>
-<message><source>Penmark is the add-in of Scrivel for Microsoft Word. While you write, it inserts citations from your library and builds the bibliography in the style that you choose.</source><translation type="unfinished"></translation></message>
-<message><source>What to do with Penmark</source><translation type="unfinished"></translation></message>
-<message><source>Install Penmark</source><translation type="unfinished"></translation></message>
-<message><source>Puts the add-in into the startup folder of every copy of Word on this computer.</source><translation type="unfinished"></translation></message>
-<message><source>Uninstall Penmark</source><translation type="unfinished"></translation></message>
-<message><source>Removes the add-in from Word. Your documents and their citations stay as they are.</source><translation type="unfinished"></translation></message>
-<message><source>Quit Microsoft Word before you continue.</source><translation type="unfinished"></translation></message>
-<message><source>This is the result for Scrivel Penmark. The log holds every step.</source><translation type="unfinished"></translation></message>
-<message><source>Result for Scrivel Penmark</source><translation type="unfinished"></translation></message>
-<message><source>This is the result of removing Scrivel Penmark. The log holds every step.</source><translation type="unfinished"></translation></message>
-<message><source>Result of removing Scrivel Penmark</source><translation type="unfinished"></translation></message>
-<message><source>Show Log</source><translation type="unfinished"></translation></message>
-<message><source>Installer</source><translation type="unfinished"></translation></message>
-<message><source>Customize…</source><translation type="unfinished"></translation></message>
-<message><source>Install Penmark…</source><translation type="unfinished"></translation></message>
-<message><source>Update Installed Copies…</source><translation type="unfinished"></translation></message>
-<message><source>Microsoft Word integration</source><translation type="unfinished"></translation></message>
-<message><source>Work with your references while you write</source><translation type="unfinished"></translation></message>
-<message><source>Penmark add-in</source><translation type="unfinished"></translation></message>
-<message><source>Penmark for Microsoft Word: citations and bibliographies in your documents</source><translation type="unfinished"></translation></message>
-<message><source>Content categories</source><translation type="unfinished"></translation></message>
-<message><source>Import filters for databases and library catalogues, by subject</source><translation type="unfinished"></translation></message>
-<message><source>Chemistry</source><translation type="unfinished"></translation></message>
-<message><source>Import filters for chemistry</source><translation type="unfinished"></translation></message>
-<message><source>Economics</source><translation type="unfinished"></translation></message>
-<message><source>Import filters for economics</source><translation type="unfinished"></translation></message>
-<message><source>History</source><translation type="unfinished"></translation></message>
-<message><source>Import filters for history</source><translation type="unfinished"></translation></message>
-<message><source>Law</source><translation type="unfinished"></translation></message>
-<message><source>Import filters for law</source><translation type="unfinished"></translation></message>
-<message><source>Medicine</source><translation type="unfinished"></translation></message>
-<message><source>Import filters for medicine</source><translation type="unfinished"></translation></message>
-<message><source>Physics</source><translation type="unfinished"></translation></message>
-<message><source>Import filters for physics</source><translation type="unfinished"></translation></message>
-<message><source>System integration</source><translation type="unfinished"></translation></message>
-<message><source>Scrivel 21 in the rest of your system</source><translation type="unfinished"></translation></message>
-<message><source>Spotlight importer</source><translation type="unfinished"></translation></message>
-<message><source>Spotlight finds the references in your libraries</source><translation type="unfinished"></translation></message>
-<message><source>Services</source><translation type="unfinished"></translation></message>
-<message><source>Scrivel 21 commands in the Services menu of other applications</source><translation type="unfinished"></translation></message>
-<message><source>Browser extension</source><translation type="unfinished"></translation></message>
-<message><source>Tessaron for Google Chrome: collects references from web pages</source><translation type="unfinished"></translation></message>
+<message><source>Welcome</source><translation>Bienvenue</translation></message>
+<message><source>Read Me</source><translation>À lire</translation></message>
+<message><source>License</source><translation>Licence</translation></message>
+<message><source>Customization</source><translation>Personnalisation</translation></message>
+<message><source>Updating System</source><translation>Mise à jour du système</translation></message>
+<message><source>Summary</source><translation>Résumé</translation></message>
+<message><source>Finding Scrivel</source><translation>Recherche de Scrivel</translation></message>
+<message><source>Found Scrivel</source><translation>Scrivel trouvé</translation></message>
+<message><source>Welcome to Scrivel 21</source><translation>Bienvenue dans Scrivel 21</translation></message>
+<message><source>End User License Agreement</source><translation>Contrat de licence de l’utilisateur final</translation></message>
+<message><source>Select Components</source><translation>Sélectionner les composants</translation></message>
+<message><source>Thank you for using Scrivel 21</source><translation>Merci d’utiliser Scrivel 21</translation></message>
+<message><source>Finish</source><translation>Fin</translation></message>
+<message><source>Uninstall Scrivel 21</source><translation>Désinstaller Scrivel 21</translation></message>
+<message><source>Welcome to Scrivel 21 Update</source><translation>Bienvenue dans la mise à jour de Scrivel 21</translation></message>
+<message><source>Penmark for Microsoft Word</source><translation>Penmark pour Microsoft Word</translation></message>
+<message><source>Scrivel Penmark Configuration</source><translation>Configuration de Scrivel Penmark</translation></message>
+<message><source>Welcome to Scrivel Penmark</source><translation>Bienvenue dans Scrivel Penmark</translation></message>
+<message><source>Continue</source><translation>Continuer</translation></message>
+<message><source>Next</source><translation>Suivant</translation></message>
+<message><source>Done</source><translation>Terminé</translation></message>
+<message><source>Exit</source><translation>Quitter</translation></message>
+<message><source>Retry</source><translation>Réessayer</translation></message>
+<message><source>Scrivel 21 Installer</source><translation>Programme d’installation de Scrivel 21</translation></message>
+<message><source>Uninstall will remove Scrivel Penmark from your computer.  Are you sure you want to do this?</source><translation>La désinstallation supprimera Scrivel Penmark de votre ordinateur. Voulez-vous vraiment continuer ?</translation></message>
+<message><source>Uninstall will remove all external Scrivel components from your computer.  Are you sure you want to do this?</source><translation>La désinstallation supprimera tous les composants externes de Scrivel de votre ordinateur. Voulez-vous vraiment continuer ?</translation></message>
+<message><source>Back</source><translation>Précédent</translation></message>
+<message><source>%@ Customizer</source><translation>%@ Customizer</translation></message>
+<message><source>%@ was removed.</source><translation>%@ : suppression réussie.</translation></message>
+<message><source>%@ could not be removed.</source><translation>%@ : échec de la suppression.</translation></message>
+<message><source>%@ was installed.</source><translation>%@ : installation réussie.</translation></message>
+<message><source>%@ could not be installed.</source><translation>%@ : échec de l’installation.</translation></message>
+<message><source>The text “%@” is missing from this copy of the installer. Get a complete copy to read it.</source><translation>Le texte « %@ » est absent de cette copie du programme d’installation. Procurez-vous une copie complète pour le lire.</translation></message>
+<message><source>Help</source><translation>Aide</translation></message>
+<message><source>Install Log</source><translation>Journal d’installation</translation></message>
+<message><source>The install log is empty.</source><translation>Le journal d’installation est vide.</translation></message>
+<message><source>Nothing was changed.</source><translation>Rien n’a été modifié.</translation></message>
+<message><source>Steps</source><translation>Étapes</translation></message>
+<message><source>Looking at what is installed on this computer…</source><translation>Examen de ce qui est installé sur cet ordinateur…</translation></message>
+<message><source>Search progress</source><translation>Progression de la recherche</translation></message>
+<message><source>This can take a moment.</source><translation>Cela peut prendre un moment.</translation></message>
+<message><source>Please read the license agreement. To continue, you need to agree to it.</source><translation>Veuillez lire le contrat de licence. Pour continuer, vous devez l’accepter.</translation></message>
+<message><source>License agreement</source><translation>Contrat de licence</translation></message>
+<message><source>Answer to the license agreement</source><translation>Réponse au contrat de licence</translation></message>
+<message><source>Agree</source><translation>Accepter</translation></message>
+<message><source>Disagree</source><translation>Refuser</translation></message>
+<message><source>Select the components that you want to use. Cleared components are removed.</source><translation>Sélectionnez les composants que vous voulez utiliser. Les composants décochés sont supprimés.</translation></message>
+<message><source>Components</source><translation>Composants</translation></message>
+<message><source>Component</source><translation>Composant</translation></message>
+<message><source>Installed</source><translation>Installé</translation></message>
+<message><source>Description</source><translation>Description</translation></message>
+<message><source>Uninstall…</source><translation>Désinstaller…</translation></message>
+<message><source>Removes all components from this computer</source><translation>Supprime tous les composants de cet ordinateur</translation></message>
+<message><source>This is the result of the installation. The log holds every step.</source><translation>Voici le résultat de l’installation. Le journal contient chaque étape.</translation></message>
+<message><source>Result of the installation</source><translation>Résultat de l’installation</translation></message>
+<message><source>This is the result for the components that you selected. The log holds every step.</source><translation>Voici le résultat pour les composants que vous avez sélectionnés. Le journal contient chaque étape.</translation></message>
+<message><source>Result of the change</source><translation>Résultat de la modification</translation></message>
+<message><source>All components of Scrivel 21 outside its own folder will be removed from this computer: the Penmark add-in for Microsoft Word, the Spotlight importer, the Services and the browser extension.</source><translation>Tous les composants de Scrivel 21 situés hors de son propre dossier seront supprimés de cet ordinateur : le complément Penmark pour Microsoft Word, l’importateur Spotlight, les Services et l’extension de navigateur.</translation></message>
+<message><source>Your libraries and documents stay where they are.</source><translation>Vos bibliothèques et vos documents restent où ils sont.</translation></message>
+<message><source>Update progress</source><translation>Progression de la mise à jour</translation></message>
+<message><source>Please leave the computer switched on and do not quit the installer until this is finished.</source><translation>Veuillez laisser l’ordinateur allumé et ne pas quitter le programme d’installation avant la fin de l’opération.</translation></message>
+<message><source>This is the result of the uninstallation. The log holds every step.</source><translation>Voici le résultat de la désinstallation. Le journal contient chaque étape.</translation></message>
+<message><source>Result of the uninstallation</source><translation>Résultat de la désinstallation</translation></message>
+<message><source>Quit Microsoft Word, then click Retry.</source><translation>Quittez Microsoft Word, puis cliquez sur Réessayer.</translation></message>
+<message><source>Microsoft Word is open. Its add-ins can only be changed while it is closed. Save your documents in Word before you quit it.</source><translation>Microsoft Word est ouvert. Ses compléments ne peuvent être modifiés que lorsqu’il est fermé. Enregistrez vos documents dans Word avant de le quitter.</translation></message>
+<message><source>Spotlight and Services</source><translation>Spotlight et Services</translation></message>
+<message><source>Choose who can use the components that you have just selected.</source><translation>Choisissez qui peut utiliser les composants que vous venez de sélectionner.</translation></message>
+<message><source>Spotlight: find your Scrivel documents with the search of the system</source><translation>Spotlight : retrouvez vos documents Scrivel avec la recherche du système</translation></message>
+<message><source>Who can use the Spotlight importer</source><translation>Qui peut utiliser l’importateur Spotlight</translation></message>
+<message><source>Only for me</source><translation>Pour moi seulement</translation></message>
+<message><source>Goes into the Library folder of your home folder.</source><translation>Va dans le dossier Library de votre dossier de départ.</translation></message>
+<message><source>For all users of this computer</source><translation>Pour tous les utilisateurs de cet ordinateur</translation></message>
+<message><source>Goes into the computer’s Library folder. An administrator password may be asked for.</source><translation>Va dans le dossier Library de l’ordinateur. Le mot de passe d’un administrateur peut être demandé.</translation></message>
+<message><source>Services: use Scrivel from the Services menu of other applications</source><translation>Services : utilisez Scrivel depuis le menu Services d’autres applications</translation></message>
+<message><source>Who can use the Services</source><translation>Qui peut utiliser les Services</translation></message>
+<message><source>This is the result of the update, copy by copy. The log holds every step.</source><translation>Voici le résultat de la mise à jour, copie par copie. Le journal contient chaque étape.</translation></message>
+<message><source>Result of the update</source><translation>Résultat de la mise à jour</translation></message>
+<message><source>There is no copy of Scrivel 21 that this update fits.</source><translation>Cette mise à jour ne convient à aucune copie de Scrivel 21.</translation></message>
+<message><source>Nothing was changed on this computer. A copy that is already up to date, or that was altered, is not offered; the log names every copy that was looked at.</source><translation>Rien n’a été modifié sur cet ordinateur. Une copie déjà à jour, ou modifiée, n’est pas proposée ; le journal cite chaque copie examinée.</translation></message>
+<message><source>The add-in goes into the startup folder of each copy and is loaded when Word is opened the next time.</source><translation>Le complément va dans le dossier de démarrage de chaque copie et sera chargé à la prochaine ouverture de Word.</translation></message>
+<message><source>These are the copies of Microsoft Word that get the Penmark add-in. Add a copy that is missing, or change the startup folder of one.</source><translation>Voici les copies de Microsoft Word qui reçoivent le complément Penmark. Ajoutez une copie manquante ou modifiez le dossier de démarrage de l’une d’elles.</translation></message>
+<message><source>Copies of Microsoft Word</source><translation>Copies de Microsoft Word</translation></message>
+<message><source>Word</source><translation>Word</translation></message>
+<message><source>Startup Folder</source><translation>Dossier de démarrage</translation></message>
+<message><source>Version</source><translation>Version</translation></message>
+<message><source>Adds a copy of Word and its startup folder</source><translation>Ajoute une copie de Word et son dossier de démarrage</translation></message>
+<message><source>Add</source><translation>Ajouter</translation></message>
+<message><source>Removes the add-in from the selected folder and forgets the folder</source><translation>Supprime le complément du dossier sélectionné et oublie ce dossier</translation></message>
+<message><source>Remove</source><translation>Supprimer</translation></message>
+<message><source>Change…</source><translation>Modifier…</translation></message>
+<message><source>Chooses another startup folder for the selected copy</source><translation>Choisit un autre dossier de démarrage pour la copie sélectionnée</translation></message>
+<message><source>Reset</source><translation>Réinitialiser</translation></message>
+<message><source>Forgets the folder that you chose for the selected copy</source><translation>Oublie le dossier que vous avez choisi pour la copie sélectionnée</translation></message>
+<message><source>Penmark is the add-in of Scrivel for Microsoft Word. While you write, it inserts citations from your library and builds the bibliography in the style that you choose.</source><translation>Penmark est le complément de Scrivel pour Microsoft Word. Pendant que vous écrivez, il insère des citations de votre bibliothèque et compose la bibliographie dans le style de votre choix.</translation></message>
+<message><source>What to do with Penmark</source><translation>Que faire de Penmark</translation></message>
+<message><source>Install Penmark</source><translation>Installer Penmark</translation></message>
+<message><source>Puts the add-in into the startup folder of every copy of Word on this computer.</source><translation>Met le complément dans le dossier de démarrage de chaque copie de Word sur cet ordinateur.</translation></message>
+<message><source>Uninstall Penmark</source><translation>Désinstaller Penmark</translation></message>
+<message><source>Removes the add-in from Word. Your documents and their citations stay as they are.</source><translation>Supprime le complément de Word. Vos documents et leurs citations restent tels quels.</translation></message>
+<message><source>Quit Microsoft Word before you continue.</source><translation>Quittez Microsoft Word avant de continuer.</translation></message>
+<message><source>This is the result for Scrivel Penmark. The log holds every step.</source><translation>Voici le résultat pour Scrivel Penmark. Le journal contient chaque étape.</translation></message>
+<message><source>Result for Scrivel Penmark</source><translation>Résultat pour Scrivel Penmark</translation></message>
+<message><source>This is the result of removing Scrivel Penmark. The log holds every step.</source><translation>Voici le résultat de la suppression de Scrivel Penmark. Le journal contient chaque étape.</translation></message>
+<message><source>Result of removing Scrivel Penmark</source><translation>Résultat de la suppression de Scrivel Penmark</translation></message>
+<message><source>Show Log</source><translation>Afficher le journal</translation></message>
+<message><source>Installer</source><translation>Programme d’installation</translation></message>
+<message><source>Customize…</source><translation>Personnaliser…</translation></message>
+<message><source>Install Penmark…</source><translation>Installer Penmark…</translation></message>
+<message><source>Update Installed Copies…</source><translation>Mettre à jour les copies installées…</translation></message>
+<message><source>Microsoft Word integration</source><translation>Intégration à Microsoft Word</translation></message>
+<message><source>Work with your references while you write</source><translation>Travaillez avec vos références pendant que vous écrivez</translation></message>
+<message><source>Penmark add-in</source><translation>Complément Penmark</translation></message>
+<message><source>Penmark for Microsoft Word: citations and bibliographies in your documents</source><translation>Penmark pour Microsoft Word : citations et bibliographies dans vos documents</translation></message>
+<message><source>Content categories</source><translation>Catégories de contenu</translation></message>
+<message><source>Import filters for databases and library catalogues, by subject</source><translation>Filtres d’importation pour bases de données et catalogues de bibliothèques, par domaine</translation></message>
+<message><source>Chemistry</source><translation>Chimie</translation></message>
+<message><source>Import filters for chemistry</source><translation>Filtres d’importation pour la chimie</translation></message>
+<message><source>Economics</source><translation>Économie</translation></message>
+<message><source>Import filters for economics</source><translation>Filtres d’importation pour l’économie</translation></message>
+<message><source>History</source><translation>Histoire</translation></message>
+<message><source>Import filters for history</source><translation>Filtres d’importation pour l’histoire</translation></message>
+<message><source>Law</source><translation>Droit</translation></message>
+<message><source>Import filters for law</source><translation>Filtres d’importation pour le droit</translation></message>
+<message><source>Medicine</source><translation>Médecine</translation></message>
+<message><source>Import filters for medicine</source><translation>Filtres d’importation pour la médecine</translation></message>
+<message><source>Physics</source><translation>Physique</translation></message>
+<message><source>Import filters for physics</source><translation>Filtres d’importation pour la physique</translation></message>
+<message><source>System integration</source><translation>Intégration au système</translation></message>
+<message><source>Scrivel 21 in the rest of your system</source><translation>Scrivel 21 dans le reste de votre système</translation></message>
+<message><source>Spotlight importer</source><translation>Importateur Spotlight</translation></message>
+<message><source>Spotlight finds the references in your libraries</source><translation>Spotlight trouve les références dans vos bibliothèques</translation></message>
+<message><source>Services</source><translation>Services</translation></message>
+<message><source>Scrivel 21 commands in the Services menu of other applications</source><translation>Commandes de Scrivel 21 dans le menu Services d’autres applications</translation></message>
+<message><source>Browser extension</source><translation>Extension de navigateur</translation></message>
+<message><source>Tessaron for Google Chrome: collects references from web pages</source><translation>Tessaron pour Google Chrome : recueille des références dans les pages web</translation></message>
 <message><source>Not found</source><translation>Introuvable</translation></message>
 <message><source>Find</source><translation>Rechercher</translation></message>
 <message><source>Find Previous</source><translation>Rechercher le précédent</translation></message>
