@@ -11,18 +11,10 @@
 
 namespace fakes {
 
-/// Orders keys, and finds them by their text.
-struct ByText {
-    using is_transparent = void;
-    static std::string_view text(std::string_view english) { return english; }
-    static std::string_view text(ports::TextKey key) { return key.english(); }
-    bool operator()(const auto& left, const auto& right) const { return text(left) < text(right); }
-};
-
 class FakeLocalizedTexts final : public ports::LocalizedTexts {
   public:
-    /// Translations; only texts of the catalogue can have one.
-    std::map<ports::TextKey, std::string, ByText> table;
+    /// Translations by their English texts.
+    std::map<std::string, std::string, std::less<>> table;
     /// Every key that was looked up, in order.
     mutable std::vector<std::string> lookedUp;
 

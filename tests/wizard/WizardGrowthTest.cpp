@@ -14,17 +14,18 @@ long alive = 0;
 
 } // namespace
 
-void* operator new(std::size_t size) {
+// Never inlined: the compiler would take the pair for a mismatch.
+[[gnu::noinline]] void* operator new(std::size_t size) {
     ++alive;
     if (void* memory = std::malloc(size ? size : 1))
         return memory;
     throw std::bad_alloc();
 }
-void operator delete(void* memory) noexcept {
+[[gnu::noinline]] void operator delete(void* memory) noexcept {
     alive -= memory != nullptr;
     std::free(memory);
 }
-void operator delete(void* memory, std::size_t) noexcept {
+[[gnu::noinline]] void operator delete(void* memory, std::size_t) noexcept {
     operator delete(memory);
 }
 

@@ -653,24 +653,24 @@ constexpr Colour kDim{0.2, 0.2, 0.2, 0.8};
 constexpr Colour kLightGrey{2.0 / 3, 2.0 / 3, 2.0 / 3, 1.0};
 
 constexpr std::array<ec::OutlineRow, 3> kOutline{{
-    {"One", {3, -1, -1}},
-    {"Two", {5, -1, -1}},
-    {"Three", {8, -1, -1}},
+    {"Welcome", {3, -1, -1}},
+    {"Read Me", {5, -1, -1}},
+    {"License", {8, -1, -1}},
 }};
 
 TEST_F(WizardStepsTest, TheOutlineHasABulletTwoBlanksAndANameInEachLine) {
     begin(kFull, kOutline, 1);
-    EXPECT_EQ(outlets.outlineText.text(), "•  One\n•  Two\n•  Three\n");
+    EXPECT_EQ(outlets.outlineText.text(), "•  Welcome\n•  Read Me\n•  License\n");
 }
 
 TEST_F(WizardStepsTest, InALightAppearanceTheCurrentLineIsBoldAndWhatComesIsDim) {
     begin(kFull, kOutline, 1);
     const StyledText expected{{{"•", kBlue, true},
-                               {"  One\n", std::nullopt, false},
+                               {"  Welcome\n", std::nullopt, false},
                                {"•", kBlue, true},
-                               {"  Two\n", std::nullopt, true},
+                               {"  Read Me\n", std::nullopt, true},
                                {"•", kDim, false},
-                               {"  Three\n", kDim, false}},
+                               {"  License\n", kDim, false}},
                               8.0};
     EXPECT_EQ(outlets.outlineText.styledText(), expected);
 }
@@ -679,11 +679,11 @@ TEST_F(WizardStepsTest, InADarkAppearanceEverythingAfterTheBulletIsLightGrey) {
     host.appearance.dark = true;
     begin(kFull, kOutline, 1);
     const StyledText expected{{{"•", kBlue, true},
-                               {"  One\n", kLightGrey, false},
+                               {"  Welcome\n", kLightGrey, false},
                                {"•", kBlue, true},
-                               {"  Two\n", kLightGrey, true},
+                               {"  Read Me\n", kLightGrey, true},
                                {"•", kDim, false},
-                               {"  Three\n", kLightGrey, false}},
+                               {"  License\n", kLightGrey, false}},
                               8.0};
     EXPECT_EQ(outlets.outlineText.styledText(), expected);
 }
@@ -699,17 +699,17 @@ TEST_F(WizardStepsTest, TheAppearanceIsAskedAtEachRefresh) {
 }
 
 TEST_F(WizardStepsTest, TheOutlinesNamesAreTheUsersLanguage) {
-    host.texts.table = {{"Two", "Zwei"}};
+    host.texts.table = {{"Read Me", "Bitte lesen"}};
     begin(kFull, kOutline, 1);
-    EXPECT_EQ(outlets.outlineText.text(), "•  One\n•  Zwei\n•  Three\n");
+    EXPECT_EQ(outlets.outlineText.text(), "•  Welcome\n•  Bitte lesen\n•  License\n");
 }
 
 TEST_F(WizardStepsTest, TheCurrentEntryIsTheFirstWithThePageInOneOfItsThreeSlots) {
     static constexpr std::array kRows{plain(9), plain(1), plain(2), plain(3), plain(4), kEnd};
     static constexpr std::array<ec::OutlineRow, 3> kEntries{{
-        {"A", {1, -1, -1}},
-        {"B", {-1, 2, 3}},
-        {"C", {3, 2, 4}},
+        {"Welcome", {1, -1, -1}},
+        {"Read Me", {-1, 2, 3}},
+        {"License", {3, 2, 4}},
     }};
     begin(kRows, kEntries, 0);
     for (const int entry : {0, 1, 1, 2}) {
