@@ -2,25 +2,7 @@
 # that a front end without a window starts with the same titles as the window.
 #   cmake -DFOLDER=… -DOUTPUT=… -P InterfaceDefaults.cmake
 
-# What has a meaning of its own in a CMake list stands aside meanwhile.
-string(ASCII 1 semicolon)
-string(ASCII 2 opening)
-string(ASCII 3 closing)
-
-# The text that XML writes as `text`.
-function(unescape text result)
-    string(REPLACE "${opening}" "[" text "${text}")
-    string(REPLACE "${closing}" "]" text "${text}")
-    string(REPLACE "&lt${semicolon}" "<" text "${text}")
-    string(REPLACE "&gt${semicolon}" ">" text "${text}")
-    string(REPLACE "&quot${semicolon}" "\"" text "${text}")
-    string(REPLACE "&apos${semicolon}" "'" text "${text}")
-    string(REPLACE "&#10${semicolon}" "\n" text "${text}")
-    string(REPLACE "&#xa${semicolon}" "\n" text "${text}")
-    string(REPLACE "&amp${semicolon}" "&" text "${text}")
-    string(REPLACE "${semicolon}" ";" text "${text}")
-    set(${result} "${text}" PARENT_SCOPE)
-endfunction()
+include("${CMAKE_CURRENT_LIST_DIR}/XmlText.cmake")
 
 file(GLOB files "${FOLDER}/*.ui")
 set(rows "")
@@ -28,9 +10,7 @@ set(count 0)
 foreach(file IN LISTS files)
     get_filename_component(interface "${file}" NAME_WE)
     file(READ "${file}" text)
-    string(REPLACE ";" "${semicolon}" text "${text}")
-    string(REPLACE "[" "${opening}" text "${text}")
-    string(REPLACE "]" "${closing}" text "${text}")
+    xml_protect(text)
     # One list element an object, from its opening tag to the next one's.
     string(REPLACE "<widget " ";<widget " objects "${text}")
     string(REPLACE "<action " ";<action " objects "${objects}")
@@ -38,7 +18,9 @@ foreach(file IN LISTS files)
         if(object MATCHES "^<widget class=\"[A-Za-z0-9_:]+\" name=\"([A-Za-z0-9_]+)\"")
             set(outlet "${CMAKE_MATCH_1}")
             if(object MATCHES "<property name=\"text\">[ \n\t]*<string[^>/]*>([^<]*)</string>")
-                unescape("${CMAKE_MATCH_1}" title)
+                set(title "${CMAKE_MATCH_1}")
+                xml_unescape(title)
+                xml_restore(title)
                 string(APPEND rows
                        "    InterfaceTitle{\"${interface}\", \"${outlet}\", R\"title(${title})title\"},\n")
                 math(EXPR count "${count} + 1")

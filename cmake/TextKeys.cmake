@@ -1,17 +1,11 @@
 # Writes OUTPUT, a header with the keys of CATALOGUE (scrivel_en.ts), sorted by their bytes, so that
 # the compiler can look a text up.
 #   cmake -DCATALOGUE=… -DOUTPUT=… -P TextKeys.cmake
+include("${CMAKE_CURRENT_LIST_DIR}/XmlText.cmake")
+
 file(READ "${CATALOGUE}" catalogue)
 
-# What means something in a list of CMake's stands as a control character while lists are in use.
-string(ASCII 1 semicolon)
-string(ASCII 2 opening)
-string(ASCII 3 closing)
-string(ASCII 4 backslash)
-string(REPLACE ";" "${semicolon}" catalogue "${catalogue}")
-string(REPLACE "[" "${opening}" catalogue "${catalogue}")
-string(REPLACE "]" "${closing}" catalogue "${catalogue}")
-string(REPLACE "\\" "${backslash}" catalogue "${catalogue}")
+xml_protect(catalogue)
 string(REGEX MATCHALL "<source>[^<]*</source>" sources "${catalogue}")
 
 # Each key as its bytes in hexadecimal digits, which sort as the bytes do, and as C++ has it. (The
@@ -19,27 +13,15 @@ string(REGEX MATCHALL "<source>[^<]*</source>" sources "${catalogue}")
 set(rows "")
 foreach(source IN LISTS sources)
     string(REGEX REPLACE "^<source>(.*)</source>$" "\\1" key "${source}")
-    string(REPLACE "&lt${semicolon}" "<" key "${key}")
-    string(REPLACE "&gt${semicolon}" ">" key "${key}")
-    string(REPLACE "&quot${semicolon}" "\"" key "${key}")
-    string(REPLACE "&apos${semicolon}" "'" key "${key}")
-    string(REPLACE "&#10${semicolon}" "\n" key "${key}")
-    string(REPLACE "&#xa${semicolon}" "\n" key "${key}")
-    if(key MATCHES "&[a-z0-9#]+${semicolon}" AND NOT CMAKE_MATCH_0 STREQUAL "&amp${semicolon}")
-        message(FATAL_ERROR "${CATALOGUE}: no such character reference here: ${source}")
-    endif()
-    string(REPLACE "&amp${semicolon}" "&" key "${key}")
-
-    string(REPLACE "${semicolon}" ";" bytes "${key}")
-    string(REPLACE "${opening}" "[" bytes "${bytes}")
-    string(REPLACE "${closing}" "]" bytes "${bytes}")
-    string(REPLACE "${backslash}" "\\" bytes "${bytes}")
+    xml_unescape(key)
+    set(bytes "${key}")
+    xml_restore(bytes)
     string(HEX "${bytes}" bytes)
 
-    string(REPLACE "${backslash}" "${backslash}${backslash}" key "${key}")
-    string(REPLACE "\"" "${backslash}\"" key "${key}")
-    string(REPLACE "\n" "${backslash}n" key "${key}")
-    string(REPLACE "\t" "${backslash}t" key "${key}")
+    string(REPLACE "${xml_backslash}" "${xml_backslash}${xml_backslash}" key "${key}")
+    string(REPLACE "\"" "${xml_backslash}\"" key "${key}")
+    string(REPLACE "\n" "${xml_backslash}n" key "${key}")
+    string(REPLACE "\t" "${xml_backslash}t" key "${key}")
     list(APPEND rows "${bytes} ${key}")
 endforeach()
 list(LENGTH rows count)
@@ -53,10 +35,7 @@ endif()
 
 list(TRANSFORM rows REPLACE "^[0-9a-f]+ (.*)$" "    \"\\1\",")
 list(JOIN rows "\n" keys)
-string(REPLACE "${semicolon}" ";" keys "${keys}")
-string(REPLACE "${opening}" "[" keys "${keys}")
-string(REPLACE "${closing}" "]" keys "${keys}")
-string(REPLACE "${backslash}" "\\" keys "${keys}")
+xml_restore(keys)
 file(WRITE "${OUTPUT}" "// Made by the build from the catalogue of texts.
 #pragma once
 
