@@ -86,12 +86,17 @@ bool Program::pause(std::chrono::milliseconds time) {
 std::unique_ptr<WindowFrontEnd> Program::window(int& argc, char** argv) {
     if (m_options.unattended)
         return nullptr;
-    return makeWindowFrontEnd({.argc = argc,
-                               .argv = argv,
-                               .resourceFolder = m_adapters.bundles.mainResourceFolder(),
-                               .texts = *m_adapters.texts,
-                               .mainQueueDescriptor = m_adapters.mainQueue.descriptor(),
-                               .runPending = [this] { m_adapters.mainQueue.runPending(); }});
+    return makeWindowFrontEnd(
+        {.argc = argc,
+         .argv = argv,
+         .resourceFolder = m_adapters.bundles.mainResourceFolder(),
+         .texts = *m_adapters.texts,
+         .mainQueueDescriptor = m_adapters.mainQueue.descriptor(),
+         .runPending = [this] { m_adapters.mainQueue.runPending(); },
+         .typeOfFile =
+             [this](const std::string& path) {
+                 return m_adapters.finderFiles->finderInformation(path).information.typeText();
+             }});
 }
 
 void Program::finishBackgroundWork() {

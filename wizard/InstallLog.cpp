@@ -3,6 +3,8 @@
 #include <array>
 #include <cstdio>
 
+#include "engine/LogText.h"
+
 namespace ec {
 
 namespace {
@@ -76,7 +78,8 @@ void InstallLog::logMessage(std::string_view text, bool succeeded) {
 
 void InstallLog::logInstall(std::string_view title, OpMode mode) {
     logMessage("State: " + std::string(title) + " Mode: " + std::string(modeName(mode)));
-    m_needs.processingText.setText("Processing: " + std::string(title));
+    m_needs.processingText.setText(
+        formatted(m_needs.texts.lookUp("Processing: %@"), {m_needs.texts.translated(title)}));
     m_needs.processingText.display();
 }
 

@@ -15,6 +15,7 @@
 #include "engine/OpMode.h"
 #include "platform/controls/TextField.h"
 #include "platform/ports/Clock.h"
+#include "platform/ports/LocalizedTexts.h"
 #include "platform/ports/SystemPlaces.h"
 #include "platform/ports/TextStreams.h"
 
@@ -33,6 +34,7 @@ class InstallLog {
         const ports::SystemPlaces& places;
         ports::Clock& clock;
         ports::TextStreams& streams;
+        const ports::LocalizedTexts& texts;
         controls::TextField& processingText;
         /// Told each message, without its date, on the thread that writes it. May be empty.
         std::function<void(std::string_view)> written;
@@ -49,7 +51,8 @@ class InstallLog {
     void logMessage(std::string_view text, bool succeeded);
 
     /// `logInstall:mode:` writes "State: TITLE Mode: MODE", sets the wizard's processing text to
-    /// "Processing: TITLE" and has it drawn at once, as the main thread is about to be busy.
+    /// "Processing: TITLE" in the user's language and has it drawn at once, as the main thread is
+    /// about to be busy.
     void logInstall(std::string_view title, OpMode mode);
 
     /// `logResult:message:` writes "TEXT Result= NAME" with the result's name: "Disable" (-1),

@@ -110,10 +110,11 @@ controls::StyledText WizardTexts::summary() const {
         return controls::StyledText::plain(m_needs.texts.lookUp("Nothing was changed."));
     controls::StyledText text;
     for (const ComponentOutcome& outcome : m_needs.session.outcomes)
-        text.runs.push_back(
-            {formatted(m_needs.texts.lookUp(sentenceFor(outcome)), {outcome.title}) + "\n",
-             {},
-             !outcome.succeeded});
+        text.runs.push_back({formatted(m_needs.texts.lookUp(sentenceFor(outcome)),
+                                       {m_needs.texts.translated(outcome.title)}) +
+                                 "\n",
+                             {},
+                             !outcome.succeeded});
     text.paragraphSpacing = 4;
     return text;
 }

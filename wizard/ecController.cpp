@@ -8,6 +8,7 @@ ecController::ecController(const ports::Host& host, ecRules& rules, ecItem& root
     : WizardSession(host.bundles, host.places), InstallLog({.places = host.places,
                                                             .clock = host.clock,
                                                             .streams = host.streams,
+                                                            .texts = host.texts,
                                                             .processingText = processingText,
                                                             .written = host.watchers.logged}),
       AlertPanels({.session = *this,

@@ -3,6 +3,7 @@
 
 #include <benchmark/benchmark.h>
 
+#include "platform/posix/EnglishTexts.h"
 #include "platform/posix/FileTextStreams.h"
 #include "platform/posix/SystemClock.h"
 #include "tests/support/TemporaryFolder.h"
@@ -16,10 +17,12 @@ void logMessage(benchmark::State& state) {
     const ports::SystemPlaces places{.root = "", .home = home.path(), .temporary = "/tmp"};
     posix::SystemClock clock;
     posix::FileTextStreams streams;
+    const posix::EnglishTexts texts(home.path());
     controls::TextField processingText;
     ec::InstallLog log({.places = places,
                         .clock = clock,
                         .streams = streams,
+                        .texts = texts,
                         .processingText = processingText,
                         .written = {}});
     for (auto _ : state)

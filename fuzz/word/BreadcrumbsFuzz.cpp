@@ -11,6 +11,7 @@
 #include <string>
 #include <string_view>
 
+#include "platform/posix/EnglishTexts.h"
 #include "platform/posix/FilePropertyLists.h"
 #include "platform/posix/FileTextStreams.h"
 #include "platform/posix/PlistBundles.h"
@@ -66,11 +67,13 @@ extern "C" int LLVMFuzzerTestOneInput(const std::uint8_t* data, std::size_t size
     static posix::SystemClock clock;
     static posix::FileTextStreams streams;
     static posix::FilePropertyLists lists;
+    static const posix::EnglishTexts texts(home.path());
     static controls::TextField text;
     static const ec::WizardSession session(bundles, places);
     static ec::InstallLog log({.places = places, // there is no folder for a log
                                .clock = clock,
                                .streams = streams,
+                               .texts = texts,
                                .processingText = text,
                                .written = {}});
     const std::string path = places.expandTilde(ec::kBreadcrumbsFile);

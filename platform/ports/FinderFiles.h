@@ -22,6 +22,14 @@ struct FinderInformation {
     static constexpr std::uint16_t kIsAlias = 0x8000;
 
     bool operator==(const FinderInformation&) const = default;
+
+    /// The type as its four characters; empty where none is kept.
+    std::string typeText() const {
+        std::string text;
+        for (int shift = 24; type != 0 && shift >= 0; shift -= 8)
+            text += static_cast<char>(type >> shift & 0xFF);
+        return text;
+    }
 };
 
 class FinderFiles {

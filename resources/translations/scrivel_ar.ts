@@ -176,5 +176,7 @@
 <message><source>Folder:</source><translation>المجلد:</translation></message>
 <message><source>Application:</source><translation>التطبيق:</translation></message>
 <message><source>Choose</source><translation>اختيار</translation></message>
+<message><source>Processing: %@</source><translation>جارٍ معالجة: %@</translation></message>
+<message><source>Searching for Microsoft Word</source><translation>البحث عن Microsoft Word</translation></message>
 </context>
 </TS>

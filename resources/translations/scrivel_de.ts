@@ -176,5 +176,7 @@
 <message><source>Folder:</source><translation>Ordner:</translation></message>
 <message><source>Application:</source><translation>Programm:</translation></message>
 <message><source>Choose</source><translation>Auswählen</translation></message>
+<message><source>Processing: %@</source><translation>Wird bearbeitet: %@</translation></message>
+<message><source>Searching for Microsoft Word</source><translation>Microsoft Word wird gesucht</translation></message>
 </context>
 </TS>

@@ -176,5 +176,7 @@
 <message><source>Folder:</source><translation>Folder:</translation></message>
 <message><source>Application:</source><translation>Application:</translation></message>
 <message><source>Choose</source><translation>Choose</translation></message>
+<message><source>Processing: %@</source><translation>Processing: %@</translation></message>
+<message><source>Searching for Microsoft Word</source><translation>Searching for Microsoft Word</translation></message>
 </context>
 </TS>

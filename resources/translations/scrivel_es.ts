@@ -176,5 +176,7 @@
 <message><source>Folder:</source><translation>Carpeta:</translation></message>
 <message><source>Application:</source><translation>Aplicación:</translation></message>
 <message><source>Choose</source><translation>Elegir</translation></message>
+<message><source>Processing: %@</source><translation>Procesando: %@</translation></message>
+<message><source>Searching for Microsoft Word</source><translation>Búsqueda de Microsoft Word</translation></message>
 </context>
 </TS>

@@ -176,5 +176,7 @@
 <message><source>Folder:</source><translation>Dossier :</translation></message>
 <message><source>Application:</source><translation>Application :</translation></message>
 <message><source>Choose</source><translation>Choisir</translation></message>
+<message><source>Processing: %@</source><translation>Traitement : %@</translation></message>
+<message><source>Searching for Microsoft Word</source><translation>Recherche de Microsoft Word</translation></message>
 </context>
 </TS>

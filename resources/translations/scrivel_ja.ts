@@ -176,5 +176,7 @@
 <message><source>Folder:</source><translation>フォルダ：</translation></message>
 <message><source>Application:</source><translation>アプリケーション：</translation></message>
 <message><source>Choose</source><translation>選択</translation></message>
+<message><source>Processing: %@</source><translation>処理中：%@</translation></message>
+<message><source>Searching for Microsoft Word</source><translation>Microsoft Word の検索</translation></message>
 </context>
 </TS>

@@ -176,5 +176,7 @@
 <message><source>Folder:</source><translation>文件夹：</translation></message>
 <message><source>Application:</source><translation>应用程序：</translation></message>
 <message><source>Choose</source><translation>选取</translation></message>
+<message><source>Processing: %@</source><translation>正在处理：%@</translation></message>
+<message><source>Searching for Microsoft Word</source><translation>查找 Microsoft Word</translation></message>
 </context>
 </TS>

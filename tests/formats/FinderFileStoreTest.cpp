@@ -473,5 +473,11 @@ TEST(FinderFileCalls, AnAttributeIsNeverWrittenThroughASymbolicLink) {
     EXPECT_FALSE(finderFileCalls().readAttribute(folder.path("a")));
 }
 
+TEST(FinderInformation, GivesTheTypeAsItsFourCharactersAndNothingForNone) {
+    EXPECT_EQ(kOther.typeText(), "APPL");
+    EXPECT_EQ(kText.typeText(), "TEXT");
+    EXPECT_EQ(FinderInformation{}.typeText(), "");
+}
+
 } // namespace
 } // namespace posix

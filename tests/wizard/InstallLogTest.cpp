@@ -135,6 +135,7 @@ TEST(InstallLogOnDisk, AMissingLogsFolderIsNotMade) {
     ec::InstallLog log({.places = places,
                         .clock = host.clock,
                         .streams = streams,
+                        .texts = host.texts,
                         .processingText = processingText,
                         .written = {}});
     log.logMessage("nothing comes of it");

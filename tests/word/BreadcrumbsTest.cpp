@@ -32,6 +32,7 @@ struct Facet {
         : session(host.bundles, host.places), log({.places = host.places,
                                                    .clock = host.clock,
                                                    .streams = host.streams,
+                                                   .texts = host.texts,
                                                    .processingText = text,
                                                    .written = {}}),
           crumbs({.log = log, .session = session, .lists = lists}) {}

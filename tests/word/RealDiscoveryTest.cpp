@@ -34,6 +34,7 @@ struct RealDiscovery : testing::Test {
     ec::InstallLog log{{.places = host.places,
                         .clock = host.clock,
                         .streams = host.streams,
+                        .texts = host.texts,
                         .processingText = text,
                         .written = {}}};
     ec::Breadcrumbs crumbs{{.log = log, .session = session, .lists = lists}};
