@@ -83,6 +83,11 @@ void WizardTexts::showDocuments() {
             document.setText(controls::StyledText::plain(missing(name)));
     }
     m_needs.outlets.aboutText.setText(m_needs.session.m_aboutFileString);
+    // nothing can be selected then, so that nothing else is ever said there
+    if (m_needs.components.outlineViewNumberOfChildrenOfItem(nullptr) == 0)
+        m_needs.outlets.infoText.setText(
+            m_needs.texts.lookUp("The list of components is missing from this copy of the "
+                                 "installer. Get a complete copy to choose components."));
 }
 
 void WizardTexts::showHelp() {

@@ -9,6 +9,7 @@
 
 #include "platform/ports/FrontEnd.h"
 #include "platform/ports/LocalizedTexts.h"
+#include "rules/ComponentOutline.h"
 #include "wizard/WizardOutlets.h"
 #include "wizard/WizardSession.h"
 
@@ -19,6 +20,7 @@ class WizardTexts {
     struct Needs {
         const WizardSession& session;
         WizardOutlets& outlets;
+        ComponentOutline& components;
         const ports::LocalizedTexts& texts;
         ports::Reader& reader;
     };
@@ -28,7 +30,8 @@ class WizardTexts {
     WizardTexts(const WizardTexts&) = delete;
     WizardTexts& operator=(const WizardTexts&) = delete;
 
-    /// Fills the pages with their documents. A file that is missing is said to be.
+    /// Fills the pages with their documents. A file that is missing is said to be, and so is the
+    /// list of components, at the foot of its empty tree.
     void showDocuments();
 
     /// Shows the help text of the page in sight.

@@ -60,6 +60,7 @@
 <message><source>%@ was installed.</source><translation>تم تثبيت «%@».</translation></message>
 <message><source>%@ could not be installed.</source><translation>تعذّر تثبيت «%@».</translation></message>
 <message><source>The text “%@” is missing from this copy of the installer. Get a complete copy to read it.</source><translation>النص «%@» غير موجود في هذه النسخة من برنامج التثبيت. لقراءته، يُرجى الحصول على نسخة كاملة.</translation></message>
+<message><source>The list of components is missing from this copy of the installer. Get a complete copy to choose components.</source><translation>قائمة المكوّنات غير موجودة في هذه النسخة من برنامج التثبيت. لاختيار المكوّنات، يُرجى الحصول على نسخة كاملة.</translation></message>
 <message><source>Help</source><translation>المساعدة</translation></message>
 <message><source>Install Log</source><translation>سجل التثبيت</translation></message>
 <message><source>The install log is empty.</source><translation>سجل التثبيت فارغ.</translation></message>

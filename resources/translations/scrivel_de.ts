@@ -60,6 +60,7 @@
 <message><source>%@ was installed.</source><translation>%@: erfolgreich installiert.</translation></message>
 <message><source>%@ could not be installed.</source><translation>%@: Installation fehlgeschlagen.</translation></message>
 <message><source>The text “%@” is missing from this copy of the installer. Get a complete copy to read it.</source><translation>Der Text „%@“ fehlt in dieser Kopie des Installationsprogramms. Laden Sie eine vollständige Kopie, um ihn zu lesen.</translation></message>
+<message><source>The list of components is missing from this copy of the installer. Get a complete copy to choose components.</source><translation>Die Liste der Komponenten fehlt in dieser Kopie des Installationsprogramms. Laden Sie eine vollständige Kopie, um Komponenten auszuwählen.</translation></message>
 <message><source>Help</source><translation>Hilfe</translation></message>
 <message><source>Install Log</source><translation>Installationsprotokoll</translation></message>
 <message><source>The install log is empty.</source><translation>Das Installationsprotokoll ist leer.</translation></message>

@@ -60,6 +60,7 @@
 <message><source>%@ was installed.</source><translation>%@ was installed.</translation></message>
 <message><source>%@ could not be installed.</source><translation>%@ could not be installed.</translation></message>
 <message><source>The text “%@” is missing from this copy of the installer. Get a complete copy to read it.</source><translation>The text “%@” is missing from this copy of the installer. Get a complete copy to read it.</translation></message>
+<message><source>The list of components is missing from this copy of the installer. Get a complete copy to choose components.</source><translation>The list of components is missing from this copy of the installer. Get a complete copy to choose components.</translation></message>
 <message><source>Help</source><translation>Help</translation></message>
 <message><source>Install Log</source><translation>Install Log</translation></message>
 <message><source>The install log is empty.</source><translation>The install log is empty.</translation></message>

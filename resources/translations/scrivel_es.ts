@@ -60,6 +60,7 @@
 <message><source>%@ was installed.</source><translation>%@: instalación correcta.</translation></message>
 <message><source>%@ could not be installed.</source><translation>%@: la instalación ha fallado.</translation></message>
 <message><source>The text “%@” is missing from this copy of the installer. Get a complete copy to read it.</source><translation>Falta el texto «%@» en esta copia del instalador. Obtenga una copia completa para leerlo.</translation></message>
+<message><source>The list of components is missing from this copy of the installer. Get a complete copy to choose components.</source><translation>Falta la lista de componentes en esta copia del instalador. Obtenga una copia completa para elegir componentes.</translation></message>
 <message><source>Help</source><translation>Ayuda</translation></message>
 <message><source>Install Log</source><translation>Registro de instalación</translation></message>
 <message><source>The install log is empty.</source><translation>El registro de instalación está vacío.</translation></message>

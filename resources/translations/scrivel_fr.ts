@@ -60,6 +60,7 @@
 <message><source>%@ was installed.</source><translation>%@ : installation réussie.</translation></message>
 <message><source>%@ could not be installed.</source><translation>%@ : échec de l’installation.</translation></message>
 <message><source>The text “%@” is missing from this copy of the installer. Get a complete copy to read it.</source><translation>Le texte « %@ » est absent de cette copie du programme d’installation. Procurez-vous une copie complète pour le lire.</translation></message>
+<message><source>The list of components is missing from this copy of the installer. Get a complete copy to choose components.</source><translation>La liste des composants est absente de cette copie du programme d’installation. Procurez-vous une copie complète pour choisir des composants.</translation></message>
 <message><source>Help</source><translation>Aide</translation></message>
 <message><source>Install Log</source><translation>Journal d’installation</translation></message>
 <message><source>The install log is empty.</source><translation>Le journal d’installation est vide.</translation></message>

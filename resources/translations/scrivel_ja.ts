@@ -60,6 +60,7 @@
 <message><source>%@ was installed.</source><translation>「%@」をインストールしました。</translation></message>
 <message><source>%@ could not be installed.</source><translation>「%@」をインストールできませんでした。</translation></message>
 <message><source>The text “%@” is missing from this copy of the installer. Get a complete copy to read it.</source><translation>このインストーラには文書「%@」が含まれていません。お読みになるには、完全なインストーラを入手してください。</translation></message>
+<message><source>The list of components is missing from this copy of the installer. Get a complete copy to choose components.</source><translation>このインストーラにはコンポーネントの一覧が含まれていません。コンポーネントを選択するには、完全なインストーラを入手してください。</translation></message>
 <message><source>Help</source><translation>ヘルプ</translation></message>
 <message><source>Install Log</source><translation>インストールログ</translation></message>
 <message><source>The install log is empty.</source><translation>インストールログは空です。</translation></message>

@@ -60,6 +60,7 @@
 <message><source>%@ was installed.</source><translation>已安装“%@”。</translation></message>
 <message><source>%@ could not be installed.</source><translation>无法安装“%@”。</translation></message>
 <message><source>The text “%@” is missing from this copy of the installer. Get a complete copy to read it.</source><translation>此安装器中缺少文稿“%@”。若要阅读，请获取完整的安装器。</translation></message>
+<message><source>The list of components is missing from this copy of the installer. Get a complete copy to choose components.</source><translation>此安装器中缺少组件列表。若要选择组件，请获取完整的安装器。</translation></message>
 <message><source>Help</source><translation>帮助</translation></message>
 <message><source>Install Log</source><translation>安装日志</translation></message>
 <message><source>The install log is empty.</source><translation>安装日志为空。</translation></message>

@@ -7,6 +7,7 @@
 #include "cp/CFileUtils.h"
 #include "cp/private/TreeWalk.h"
 #include "tests/cp/FolderTest.h"
+#include "tests/support/OrdinaryUser.h"
 
 using namespace Corvaldine::CP;
 
@@ -99,11 +100,10 @@ TEST_F(DirectoryRemoval, StopsAtAnEntryThatCannotBeRemovedAndLeavesItsParentsAnd
 }
 
 TEST_F(DirectoryRemoval, StopsInAWriteProtectedFolder) {
-    if (::geteuid() == 0)
-        GTEST_SKIP() << "the administrator may write anywhere";
     std::filesystem::create_directories(at("tree/protected"));
     write("tree/protected/file", "");
     ASSERT_EQ(::chmod(at("tree/protected").c_str(), 0500), 0);
+    const tests::AsOrdinaryUser ordinary(folder.path());
     EXPECT_FALSE(CDir::remove(path("tree")));
     EXPECT_TRUE(path("tree/protected/file").exists());
 }

@@ -7,9 +7,9 @@
 #include <gmock/gmock.h>
 #include <gtest/gtest.h>
 #include <sys/stat.h>
-#include <unistd.h>
 
 #include "rules/ecRules.h"
+#include "tests/support/OrdinaryUser.h"
 #include "tests/support/TemporaryFolder.h"
 
 using namespace std::string_literals;
@@ -22,19 +22,6 @@ namespace {
 using ec::ecRules;
 using Numbers = std::vector<std::uint32_t>;
 namespace fs = std::filesystem;
-
-/// Nothing is closed to an administrator, so for a while the test is none.
-class AsOrdinaryUser {
-  public:
-    AsOrdinaryUser() : m_was(::geteuid()) { EXPECT_TRUE(m_was != 0 || ::seteuid(kNobody) == 0); }
-    ~AsOrdinaryUser() { EXPECT_EQ(::seteuid(m_was), 0); }
-    AsOrdinaryUser(const AsOrdinaryUser&) = delete;
-    AsOrdinaryUser& operator=(const AsOrdinaryUser&) = delete;
-
-  private:
-    static constexpr uid_t kNobody = 65534;
-    uid_t m_was;
-};
 
 class RulesFile : public testing::Test {
   protected:
@@ -130,9 +117,8 @@ TEST_F(RulesFile, ThatIsALinkToNowhereOrToItselfHasNoLines) {
 
 TEST_F(RulesFile, ThatMayNotBeReadHasNoLines) {
     write(kTwoGroups);
-    fs::permissions(folder(), fs::perms(0755));
     fs::permissions(file(), fs::perms::none);
-    const AsOrdinaryUser ordinary;
+    const tests::AsOrdinaryUser ordinary(folder());
     ASSERT_TRUE(fs::is_regular_file(file()));
     expectNoLines();
 }

@@ -68,6 +68,24 @@ TEST_F(WizardTextsTest, TheSelectedComponentIsDescribedInTheUsersLanguage) {
     EXPECT_EQ(controller.infoText.text(), "");
 }
 
+TEST_F(WizardTextsTest, AnEmptyTreeOfComponentsIsExplainedInTheUsersLanguage) {
+    for (const char* rules : {"", "\r\r", "no fields at all", "Member|1|of no group|inst_Word\n"}) {
+        host.texts.table = {{"The list of components is missing from this copy of the installer. "
+                             "Get a complete copy to choose components.",
+                             "Die Liste fehlt"}};
+        tests::Components none(rules);
+        ec::ecController empty(host.host(), none.rules, none.root);
+        empty.infoText.setText("as the interface file has it");
+        user = {[&] { EXPECT_EQ(empty.infoText.text(), "Die Liste fehlt") << rules; },
+                [&] { empty.cancelBtn.press(); }};
+        empty.showCustomizerFromMenu(35);
+    }
+}
+
+TEST_F(WizardTextsTest, ATreeWithComponentsIsNotSaidToBeMissing) {
+    show(35, {[this] { EXPECT_EQ(controller.infoText.text(), ""); }, cancel()});
+}
+
 // --- Help
 
 TEST_F(WizardTextsTest, HelpOpensAtTheAnchorOfThePageInSight) {
