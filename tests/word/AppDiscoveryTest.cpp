@@ -38,6 +38,7 @@ struct AppDiscoveryTest : testing::Test {
         log.emplace(ec::InstallLog::Needs{.places = host.places,
                                           .clock = host.clock,
                                           .streams = host.streams,
+                                          .texts = host.texts,
                                           .processingText = text,
                                           .written = {}});
         crumbs.emplace(
