@@ -65,10 +65,11 @@ RunOutcome ComponentList::run() {
     ec::ecController controller(m_program.host(), m_program.rules(), m_program.root());
     RunOutcome outcome{
         .result = controller.mResultCode, .code = ExitCode::done, .reason = {}, .summary = {}};
-    if (m_program.rules().count() == 0) {
+    if (controller.components().empty()) {
         outcome.code = ExitCode::failed;
         outcome.reason = "the file Customizer.rules.txt can't be read from " +
-                         controller.m_custResourceDir + "; get a complete copy of the installer";
+                         controller.m_custResourceDir +
+                         ", or has no component; get a complete copy of the installer";
     }
     controller.m_mode = ec::launch::kCustomize;
     controller.readCustomizerData();

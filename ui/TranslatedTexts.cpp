@@ -2,9 +2,11 @@
 
 #include <algorithm>
 
+#include <QFile>
 #include <QFileInfo>
 
 #include "platform/posix/EnglishTexts.h"
+#include "ui/TranslationFile.h"
 
 namespace ui {
 
@@ -51,14 +53,23 @@ TranslatedTexts::TranslatedTexts(const Needs& needs) : m_resourceFolder(needs.re
         for (const std::string& language : candidatesFor(languageOf(locale))) {
             const QString path = QString::fromStdString(
                 needs.resourceFolder + "/translations/scrivel_" + language + ".qm");
-            // asked first: the toolkit would go on to look for shorter names by itself
-            if (QFileInfo(path).isFile() && m_translator.load(path)) {
+            if (load(path)) {
                 m_language = language;
                 return;
             }
             if (language == "en")
                 return;
         }
+}
+
+bool TranslatedTexts::load(const QString& path) {
+    QFile file(path);
+    if (!QFileInfo(path).isFile() || !file.open(QIODevice::ReadOnly))
+        return false;
+    m_file = file.readAll();
+    return isTranslationFile({m_file.constData(), static_cast<std::size_t>(m_file.size())}) &&
+           m_translator.load(reinterpret_cast<const uchar*>(m_file.constData()),
+                             static_cast<int>(m_file.size()));
 }
 
 std::string TranslatedTexts::translated(std::string_view english) const {

@@ -8,6 +8,7 @@
 #include <string_view>
 #include <vector>
 
+#include <QByteArray>
 #include <QTranslator>
 
 #include "platform/ports/LocalizedTexts.h"
@@ -34,8 +35,11 @@ class TranslatedTexts final : public ports::LocalizedTexts {
     std::string languageTag() const override { return m_language; }
 
   private:
+    bool load(const QString& path);
+
     std::string m_resourceFolder;
     std::string m_language = "en";
+    QByteArray m_file; ///< what the translator reads
     QTranslator m_translator;
 };
 

@@ -70,6 +70,10 @@ void AnswersDriver::fail(std::string why) {
         m_failure = std::move(why);
 }
 
+void AnswersDriver::failAt(const std::string& place) {
+    fail(m_needs.answers.name + ": " + place);
+}
+
 AnswersDriver::Turn AnswersDriver::cancel(std::string why) {
     if (!m_cancelled)
         m_cancelled = std::move(why);
@@ -81,9 +85,9 @@ std::optional<std::size_t> AnswersDriver::answer(const Question& question) {
         const std::string& title = m_needs.answers.answers[m_nextAnswer++];
         if (const auto index = indexOf(question, title))
             return index;
-        fail("answers[" + std::to_string(m_nextAnswer - 1) + "]: the question \"" +
-             question.message + "\" has no button \"" + title + "\"; it has " +
-             listed(question.buttons));
+        failAt("answers[" + std::to_string(m_nextAnswer - 1) + "]: the question \"" +
+               question.message + "\" has no button \"" + title + "\"; it has " +
+               listed(question.buttons));
     }
     if (const auto quit = indexOf(question, kQuitButton)) {
         const auto giveUp = Clock::now() + m_needs.waitForApps;
@@ -156,8 +160,8 @@ AnswersDriver::Turn AnswersDriver::perform(const Scene& scene, const Step& step)
     ++m_nextStep;
     m_sinceLastStep.clear();
     if (auto refusal = performStep(step, scene, m_needs.events))
-        fail("steps[" + std::to_string(m_nextStep - 1) + "]: can't " +
-             std::visit(Described(), step) + ": " + *refusal);
+        failAt("steps[" + std::to_string(m_nextStep - 1) + "]: can't " +
+               std::visit(Described(), step) + ": " + *refusal);
     return m_failure ? Turn::closeWindow : Turn::acted;
 }
 
@@ -176,8 +180,8 @@ AnswersDriver::Turn AnswersDriver::waitFor(const Event& members) {
         m_waitUntil = Clock::now() + kEventPatience;
     if (Clock::now() < *m_waitUntil)
         return Turn::waits;
-    fail("steps[" + std::to_string(m_nextStep) + "]: the event " + members.dump() +
-         " did not come within 60 seconds");
+    failAt("steps[" + std::to_string(m_nextStep) + "]: the event " + members.dump() +
+           " did not come within 60 seconds");
     return Turn::closeWindow;
 }
 

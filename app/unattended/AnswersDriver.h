@@ -72,6 +72,8 @@ class AnswersDriver {
     using Clock = std::chrono::steady_clock;
 
     void fail(std::string why);
+    /// The same for a place in the answers file and what is wrong there.
+    void failAt(const std::string& place);
     Turn cancel(std::string why);
     Turn turnWithoutSteps(const Scene& scene);
     Turn perform(const Scene& scene, const Step& step);

@@ -2,11 +2,12 @@
 
 #include <algorithm>
 #include <array>
+#include <cstdint>
 #include <fstream>
 #include <functional>
-#include <limits>
 #include <sstream>
 #include <string_view>
+#include <utility>
 
 namespace app {
 
@@ -30,9 +31,12 @@ class Reader {
     }
 
     int number(const Json& value, const std::string& place) const {
-        constexpr auto kLeast = std::numeric_limits<int>::min();
-        constexpr auto kMost = std::numeric_limits<int>::max();
-        if (!value.is_number_integer() || value < kLeast || value > kMost)
+        // Compared here: the document would compare its largest numbers as if they were negative.
+        const bool fits =
+            value.is_number_unsigned()
+                ? std::in_range<int>(value.get<std::uint64_t>())
+                : value.is_number_integer() && std::in_range<int>(value.get<std::int64_t>());
+        if (!fits)
             fail(place, "write a whole number here");
         return value.get<int>();
     }
@@ -170,13 +174,14 @@ AnswersFile AnswersFile::parse(const std::string& text, const std::string& name)
     Json document;
     try {
         document = Json::parse(text);
-    } catch (const Json::parse_error& error) {
+    } catch (const Json::exception& error) {   // a number may also be beyond all numbers
         const std::string what = error.what(); // "[json.exception…] parse error at line 1, …"
         reader.fail(what.substr(what.find("] ") + 2), "mend the JSON there");
     }
     if (!document.is_object())
         reader.fail("the document", "write one JSON object in curly brackets");
     AnswersFile file;
+    file.name = name;
     for (const auto& [member, value] : document.items()) {
         const auto* known = std::ranges::find(kMembers, member, &Member::name);
         if (known == kMembers.end())

@@ -52,6 +52,7 @@ class AnswersFileError : public std::runtime_error {
 };
 
 struct AnswersFile {
+    std::string name; ///< what errors call it; empty: there is none
     std::vector<std::string> answers;
     std::vector<std::optional<std::string>> choices;
     std::optional<bool> authorize;

@@ -68,6 +68,10 @@ TEST(AnswersFile, ErrorsNameTheFileThePlaceAndTheRemedy) {
     EXPECT_THAT(errorOf(R"({"steps": [{"set": "A", "state": true}]})"), HasSubstr("whole number"));
     EXPECT_THAT(errorOf(R"({"steps": [{"select": "A", "row": 4294967296}]})"),
                 HasSubstr("whole number"));
+    EXPECT_THAT(errorOf(R"({"steps": [{"select": "A", "row": 18446744073709551615}]})"),
+                HasSubstr("whole number"));
+    EXPECT_THAT(errorOf(R"({"steps": [{"select": "A", "row": 1e999}]})"),
+                AllOf(HasSubstr("answers.json"), HasSubstr("1e999"), HasSubstr("mend")));
     EXPECT_THAT(errorOf(R"({"steps": [{"selectRow": "A"}]})"), HasSubstr("\"row\""));
     EXPECT_THAT(errorOf(R"({"steps": [{"press": "a", "row": 1}]})"), HasSubstr("take it out"));
     EXPECT_THAT(errorOf(R"({"steps": [{"waitFor": {"text": "x"}}]})"), HasSubstr("\"event\""));

@@ -567,6 +567,176 @@ TEST_F(WizardEndToEnd, UnattendedWizardsSpeakEnglishWhateverTheLocale) {
     EXPECT_EQ(wizard("customize").of("page").at(1)["title"], "Welcome to Scrivel 21");
 }
 
+// --- a copy of the installer that is not whole, and files that hold anything
+
+struct BadInput : WizardEndToEnd {
+    void rules(const std::string& bytes) const {
+        fs::remove_all(resource("Customizer.rules.txt"));
+        std::ofstream(resource("Customizer.rules.txt"), std::ios::binary) << bytes;
+    }
+    /// What the foot of the tree says on the page of components.
+    std::string saidUnderTheTree() {
+        const Result result = wizardWith("customize", R"({"steps": [{"snapshot": "s"}]})");
+        const auto snapshots = result.of("snapshot");
+        return snapshots.empty() ? "no page: " + result.error
+                                 : std::string(snapshots[0]["controls"]["infoText"]["text"]);
+    }
+    std::vector<std::string> listed() {
+        std::vector<std::string> names;
+        for (const Json& component : Json::parse(run("list --json").output))
+            names.push_back(component["name"]);
+        return names;
+    }
+};
+
+TEST_F(BadInput, RulesWithoutAComponentAreSaidToBeMissingInTheWindowAndByList) {
+    const std::string binary("\x7F"
+                             "ELF\0\1\xFF\xFE|0|\x80\n",
+                             14);
+    for (const std::string& bytes :
+         {std::string(), std::string("\r\r\r"), std::string("\n\n"), binary,
+          std::string("a line without fields\n"), std::string("Member|1|before any group|a|b\n")}) {
+        rules(bytes);
+        EXPECT_THAT(saidUnderTheTree(),
+                    AllOf(HasSubstr("list of components is missing"), HasSubstr("complete copy")))
+            << bytes;
+        const Result list = run("list");
+        EXPECT_EQ(list.exit, 4) << bytes;
+        EXPECT_THAT(list.error, AllOf(HasSubstr("Customizer.rules.txt"), HasSubstr("complete")));
+        EXPECT_EQ(wizard("customize").exit, 0) << "nothing is chosen, so nothing fails";
+    }
+}
+
+TEST_F(BadInput, AFolderInThePlaceOfTheRulesIsAsIfTheyWereMissing) {
+    fs::remove(resource("Customizer.rules.txt"));
+    fs::create_directory(resource("Customizer.rules.txt"));
+    EXPECT_THAT(saidUnderTheTree(), HasSubstr("list of components is missing"));
+    EXPECT_EQ(run("list").exit, 4);
+}
+
+TEST_F(BadInput, FiftyMegabytesOfRulesAreRead) {
+    std::string text;
+    for (int group = 0; text.size() < 50'000'000; ++group) {
+        text += "Group " + std::to_string(group) + "|0|";
+        text.append(60'000, 'd') += "\nMember " + std::to_string(group) + "|1|inside\n";
+    }
+    rules(text);
+    const Result list = run("list");
+    EXPECT_EQ(list.exit, 0) << list.error;
+    EXPECT_THAT(list.output, HasSubstr("\n  Member 832 "));
+    EXPECT_EQ(wizard("customize").exit, 0);
+}
+
+TEST_F(BadInput, CarriageReturnsBelongToTheTextBeforeThem) {
+    rules("One|0|first\r\nTwo|1|second|inst_File|a\r\n");
+    EXPECT_THAT(listed(), ElementsAre("One", "Two"));
+    EXPECT_EQ(wizard("customize --select Two").exit, wizard("customize --select One/Two").exit);
+}
+
+TEST_F(BadInput, AGroupAtTheEndStandsAloneAndMembersBeforeTheFirstGroupAreNotShown) {
+    rules("Lost|1|before any group|inst_File|a\nOne|0|first\nTwo|1|second\nLast|0|alone");
+    EXPECT_THAT(listed(), ElementsAre("One", "Two", "Last"));
+    EXPECT_EQ(wizard("customize --select Last").exit, 0);
+    EXPECT_EQ(wizard("customize --select Lost").exit, 2);
+}
+
+TEST_F(BadInput, AMethodThatNobodyKnowsDoesNoHarm) {
+    rules("One|0|first\nTwo|1|second|inst_Nonsense|a\nThree|1|third|\nFour|1|||||\n");
+    EXPECT_THAT(listed(), ElementsAre("One", "Two", "Three", "Four"));
+    const auto before = treeOf(root);
+    const Result result = wizard("customize --select Two --select Three --select Four");
+    EXPECT_THAT(result.exit, testing::AnyOf(0, 4)) << result.error;
+    EXPECT_EQ(treeOf(root), before);
+}
+
+TEST_F(BadInput, WithoutTheInterfaceFileOfTheInstallerWindowThereIsNoneAndTheWizardStillRuns) {
+    fs::remove(resource("ScrivelInstaller.ui"));
+    const Result install = run("install --unattended");
+    EXPECT_EQ(install.exit, 4);
+    EXPECT_THAT(install.error, AllOf(HasSubstr("ScrivelInstaller"), HasSubstr("complete copy")));
+    EXPECT_EQ(wizard("customize").exit, 0);
+}
+
+TEST_F(BadInput, WithoutPicturesEveryModeRuns) {
+    for (const char* name : {"Scrivel.icns", "Scrivel_Folder.icns", "Customizer.icns"})
+        fs::remove(resource(name));
+    EXPECT_EQ(wizard("customize").exit, 0);
+    EXPECT_EQ(wizard("penmark").exit, 0);
+    EXPECT_EQ(wizard("first-install --yes").exit, 0);
+}
+
+TEST_F(BadInput, DocumentsThatAreMissingAreSaidToBeByName) {
+    for (const auto& item : fs::directory_iterator(bundle / "Contents/Resources"))
+        if (item.path().extension() == ".lproj")
+            for (const char* name :
+                 {"Welcome.html", "UpdateWelcome.html", "ReadMe.html", "License.html", "Help.html"})
+                fs::remove(item.path() / name);
+    fs::remove(resource("About.txt"));
+    const Result result =
+        wizardWith("customize", R"({"steps": [{"press": "helpBtn"}, {"snapshot": "s"}]})");
+    EXPECT_EQ(result.exit, 1) << "the steps end before the wizard does";
+    const Json controls = result.of("snapshot").at(0)["controls"];
+    const std::pair<const char*, const char*> documents[]{
+        {"welcomeText", "Welcome.html"},
+        {"patchWelcomeText", "UpdateWelcome.html"},
+        {"readMeText", "ReadMe.html"},
+        {"licenseText", "License.html"}};
+    for (const auto& [outlet, name] : documents)
+        EXPECT_THAT(std::string(controls[outlet]["text"]),
+                    AllOf(HasSubstr("“" + std::string(name) + "”"), HasSubstr("complete copy")));
+    EXPECT_EQ(wizard("first-install --yes").exit, 0);
+}
+
+TEST_F(BadInput, ABrokenBreadcrumbsFileIsKeptAsideAndANewOneBegun) {
+    const fs::path preferences = home / "Library/Preferences";
+    const fs::path file = preferences / "com.BrackleyHarlow.ScrivelCustomizer.plist";
+    fs::create_directories(preferences);
+    std::ofstream(file) << "<plist><dict><key>Word</key>";
+    const Result result = wizard("customize");
+    EXPECT_EQ(result.exit, 0) << result.error;
+    // Nothing of it is lost, whether the run had something to write or not.
+    const fs::path aside = file.string() + ".damaged";
+    EXPECT_EQ(contentsOf(fs::exists(aside) ? aside : file), "<plist><dict><key>Word</key>");
+}
+
+TEST_F(BadInput, EachMistakeInAnAnswersFileIsNamedWithItsPlaceAndARemedy) {
+    struct Mistake {
+        const char *file, *place, *remedy;
+        int exit;
+    };
+    for (const auto& [file, place, remedy, exit] : std::vector<Mistake>{
+             {"", "answers.json", "holds one JSON object", 2},
+             {"{\n\n  \"steps\": [,]}", "line 3", "mend", 2},
+             {"\xFF\xFE{}", "line 1", "mend", 2},
+             {"[]", "the document", "curly brackets", 2},
+             {R"({"stebs": []})", "\"stebs\"", "the members are", 2},
+             {R"({"answers": "Yes"})", "answers", "square brackets", 2},
+             {R"({"answers": ["Yes", 1]})", "answers[1]", "double quotes", 2},
+             {R"({"choices": [null, 1]})", "choices[1]", "double quotes", 2},
+             {R"({"authorize": "no"})", "authorize", "true or false", 2},
+             {R"({"steps": {}})", "steps", "square brackets", 2},
+             {R"({"steps": [7]})", "steps[0]", "write an object", 2},
+             {R"({"steps": [{"push": "a"}]})", "steps[0]", "the kinds are", 2},
+             {R"({"steps": [{"press": "a", "row": 1}]})", "steps[0]", "take it out", 2},
+             {R"({"steps": [{"set": "Law"}]})", "steps[0]", "\"state\"", 2},
+             {R"({"steps": [{"set": "Law", "state": 2}]})", "steps[0]", "0 for off", 2},
+             {R"({"steps": [{"select": "m", "row": "1"}]})", "steps[0]", "whole number", 2},
+             {R"({"steps": [{"select": "m", "row": 1e3}]})", "steps[0]", "whole number", 2},
+             {R"({"steps": [{"select": "m", "row": 1e999}]})", "1e999", "mend", 2},
+             {R"({"steps": [{"waitFor": {}}]})", "steps[0]", "\"event\"", 2},
+             {R"({"steps": [{"press": "none"}]})", "steps[0]", "a snapshot lists", 3},
+             {R"({"steps": [{"toggle": "none"}]})", "steps[0]", "there are", 3},
+             {R"({"steps": [{"call": "none"}]})", "steps[0]", "first keyword", 3},
+         }) {
+        const Result result = wizardWith("customize", file);
+        EXPECT_EQ(result.exit, exit) << file;
+        EXPECT_THAT(result.error,
+                    AllOf(HasSubstr("answers.json"), HasSubstr(place), HasSubstr(remedy)))
+            << file;
+        EXPECT_EQ(std::ranges::count(result.error, '\n'), 1) << result.error;
+    }
+}
+
 // --- from the installer window's menu
 
 TEST_F(WizardEndToEnd, TheMenuOfTheInstallerWindowOpensTheWizard) {
