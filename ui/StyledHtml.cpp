@@ -1,6 +1,9 @@
 #include "ui/StyledHtml.h"
 
 #include <algorithm>
+#include <vector>
+
+#include <QStringList>
 
 #include "ui/Colours.h"
 
@@ -19,14 +22,45 @@ QString cssColour(const controls::Colour& colour) {
         .arg(qRound(c.alphaF() * 100));
 }
 
-QString span(const controls::TextRun& run, const QString& line) {
+QString span(const controls::TextRun& run, const QString& line, bool bold) {
     QString style;
     if (run.colour)
         style += "color:" + cssColour(*run.colour) + ';';
-    if (run.bold)
+    if (bold)
         style += "font-weight:600;";
-    return "<span style=\"" + style + "\">" + line.toHtmlEscaped() + "</span>";
+    return line.isEmpty() ? line
+                          : "<span style=\"" + style + "\">" + line.toHtmlEscaped() + "</span>";
 }
+
+/// One line of a text, piece by piece. A bullet at its beginning and the blanks after it have one
+/// weight in every line, so that what they lead to begins at the same place all the way down.
+class Paragraph {
+  public:
+    void add(const controls::TextRun& run, const QString& piece) {
+        qsizetype lead = 0;
+        if (m_html.isEmpty() && piece.startsWith(kBullet)) {
+            m_isInLead = true;
+            lead = 1;
+        }
+        while (m_isInLead && lead < piece.size() && piece[lead] == ' ')
+            ++lead;
+        m_isInLead = m_isInLead && lead == piece.size();
+        m_html += span(run, piece.left(lead), true) + span(run, piece.mid(lead), run.bold);
+    }
+    bool isEmpty() const { return m_html.isEmpty(); }
+    QString html(double spacing) const {
+        return QStringLiteral("<p style=\"%1margin:0 0 %2px 0;white-space:pre-wrap\">%3</p>")
+            .arg(m_html.isEmpty() ? "-qt-paragraph-type:empty;" : "")
+            .arg(spacing)
+            .arg(m_html);
+    }
+
+  private:
+    static constexpr QChar kBullet = u'\u2022';
+
+    QString m_html;
+    bool m_isInLead = false;
+};
 
 } // namespace
 
@@ -38,24 +72,20 @@ bool isPlain(const controls::StyledText& text) {
 }
 
 QString asHtml(const controls::StyledText& text) {
-    QStringList paragraphs{QString()};
+    std::vector<Paragraph> paragraphs(1);
     for (const controls::TextRun& run : text.runs) {
         const QStringList lines = QString::fromStdString(run.text).split('\n');
         for (qsizetype i = 0; i < lines.size(); ++i) {
             if (i > 0)
-                paragraphs.append(QString());
-            if (!lines[i].isEmpty())
-                paragraphs.last() += span(run, lines[i]);
+                paragraphs.emplace_back();
+            paragraphs.back().add(run, lines[i]);
         }
     }
-    if (paragraphs.last().isEmpty())
-        paragraphs.removeLast();
+    if (paragraphs.back().isEmpty())
+        paragraphs.pop_back();
     QString html;
-    for (const QString& paragraph : paragraphs)
-        html += QStringLiteral("<p style=\"%1margin:0 0 %2px 0;white-space:pre-wrap\">%3</p>")
-                    .arg(paragraph.isEmpty() ? "-qt-paragraph-type:empty;" : "")
-                    .arg(text.paragraphSpacing)
-                    .arg(paragraph);
+    for (const Paragraph& paragraph : paragraphs)
+        html += paragraph.html(text.paragraphSpacing);
     return html;
 }
 

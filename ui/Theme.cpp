@@ -130,7 +130,10 @@ void Theme::polish(QWidget* widget) {
         widget->setFont(font);
         const QPalette appearance = QApplication::palette();
         QPalette palette = widget->palette();
-        palette.setColor(QPalette::WindowText, appearance.color(look.text));
+        for (const auto group : {QPalette::Active, QPalette::Inactive})
+            palette.setColor(group, QPalette::WindowText, appearance.color(group, look.text));
+        palette.setColor(QPalette::Disabled, QPalette::WindowText,
+                         appearance.color(QPalette::Disabled, QPalette::WindowText));
         palette.setColor(QPalette::Window, appearance.color(look.ground));
         widget->setPalette(palette);
     }

@@ -10,7 +10,7 @@ namespace ui {
 TableBinding::TableBinding(controls::TableView& table, QTableView& widget,
                            const ports::LocalizedTexts& texts)
     : Binding(table), m_widget(widget), m_rows(table, Columns::of(widget, &texts)) {
-    takeFirstState(table, widget);
+    FirstState(widget).giveTo(table);
     widget.setModel(&m_rows);
     widget.setSelectionBehavior(QTableView::SelectRows);
     widget.setSelectionMode(QTableView::SingleSelection);
