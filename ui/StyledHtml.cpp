@@ -22,30 +22,34 @@ QString cssColour(const controls::Colour& colour) {
         .arg(qRound(c.alphaF() * 100));
 }
 
-QString span(const controls::TextRun& run, const QString& line, bool bold) {
-    QString style;
-    if (run.colour)
-        style += "color:" + cssColour(*run.colour) + ';';
-    if (bold)
-        style += "font-weight:600;";
-    return line.isEmpty() ? line
-                          : "<span style=\"" + style + "\">" + line.toHtmlEscaped() + "</span>";
+QString span(const QString& style, const QString& words) {
+    return words.isEmpty() ? words
+                           : "<span style=\"" + style + "\">" + words.toHtmlEscaped() + "</span>";
 }
 
-/// One line of a text, piece by piece. A bullet at its beginning and the blanks after it have one
-/// weight in every line, so that what they lead to begins at the same place all the way down.
+QString styleOf(const controls::TextRun& run, bool bold) {
+    return (run.colour ? "color:" + cssColour(*run.colour) + ';' : QString()) +
+           (bold ? "font-weight:600;" : "");
+}
+
+/// One line of a text, piece by piece. A bullet at its beginning and the blanks after it look alike
+/// in every line, so that what they lead to begins at the same place all the way down: one weight,
+/// and blanks of a format of their own, because the toolkit rounds the width of what has one
+/// format.
 class Paragraph {
   public:
     void add(const controls::TextRun& run, const QString& piece) {
-        qsizetype lead = 0;
+        qsizetype at = 0;
         if (m_html.isEmpty() && piece.startsWith(kBullet)) {
+            m_html += span(styleOf(run, true), piece.left(++at));
             m_isInLead = true;
-            lead = 1;
         }
-        while (m_isInLead && lead < piece.size() && piece[lead] == ' ')
-            ++lead;
-        m_isInLead = m_isInLead && lead == piece.size();
-        m_html += span(run, piece.left(lead), true) + span(run, piece.mid(lead), run.bold);
+        const qsizetype blanks = at;
+        while (m_isInLead && at < piece.size() && piece[at] == ' ')
+            ++at;
+        m_isInLead = m_isInLead && at == piece.size();
+        m_html += span("color:transparent", piece.mid(blanks, at - blanks));
+        m_html += span(styleOf(run, run.bold), piece.mid(at));
     }
     bool isEmpty() const { return m_html.isEmpty(); }
     QString html(double spacing) const {

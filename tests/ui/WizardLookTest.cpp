@@ -3,12 +3,14 @@
 #include <memory>
 #include <stdexcept>
 #include <string>
+#include <variant>
 #include <vector>
 
 #include <gtest/gtest.h>
 
 #include <QApplication>
 #include <QDialog>
+#include <QFile>
 #include <QLabel>
 #include <QPushButton>
 #include <QRadioButton>
@@ -125,6 +127,67 @@ TEST_P(WizardInALanguage, HasRoomForEveryTitleOfTheNextButton) {
 INSTANTIATE_TEST_SUITE_P(Every, WizardInALanguage,
                          testing::Values("en", "de", "fr", "es", "ja", "zh_CN", "ar", kPseudo),
                          [](const auto& instance) { return std::string(instance.param); });
+
+/// The wizard's window with its models.
+struct WizardWindow : testing::Test {
+    void SetUp() override {
+        QFile file(SCRIVEL_RESOURCES "/Customizer.ui");
+        ASSERT_TRUE(file.open(QIODevice::ReadOnly));
+        stage::front().resources.write("Customizer.ui", file.readAll());
+        ASSERT_TRUE(stage::front().frontEnd.interfaceFiles().load("Customizer", outlets.outlets));
+        outlets.window.orderFront();
+        dialog = stage::dialogOnScreen();
+        ASSERT_NE(dialog, nullptr);
+    }
+    ec::WizardOutlets outlets;
+    QDialog* dialog = nullptr;
+};
+
+TEST_F(WizardWindow, OpensAsLargeAsItsFileSaysAndCanBeMadeLarger) {
+    const auto made = ui::dialogFrom(SCRIVEL_RESOURCES "/Customizer.ui");
+    EXPECT_EQ(dialog->size(), made->size());
+    EXPECT_GT(dialog->height(), dialog->minimumHeight());
+    dialog->resize(dialog->size() * 1.2);
+    const QSize larger = dialog->size();
+    outlets.window.orderOut();
+    outlets.window.orderFront();
+    EXPECT_EQ(dialog->size(), larger) << "it stays as the user has it";
+}
+
+TEST_F(WizardWindow, GivesEveryButtonTheTitleOfItsFileAlsoWhereItIsDisabledOrHidden) {
+    int untitled = 0;
+    for (const controls::NamedOutlet& outlet : outlets.outlets.outlets)
+        if (auto* const* button = std::get_if<controls::Button*>(&outlet.control))
+            untitled += (*button)->title().empty();
+    EXPECT_EQ(untitled, 0);
+    EXPECT_EQ(outlets.logBtn.title(), "Show Log");
+}
+
+TEST_F(WizardWindow, LeavesNoRoomForATitleThatIsEmpty) {
+    const auto* pages = dialog->findChild<QStackedWidget*>("ecTabView");
+    outlets.titleText.setText("Select Components");
+    QApplication::processEvents();
+    const int below = pages->y();
+    outlets.titleText.setText("");
+    QApplication::processEvents();
+    EXPECT_LT(pages->y(), below - 20);
+    outlets.titleText.setText("Finish");
+    QApplication::processEvents();
+    EXPECT_EQ(pages->y(), below);
+}
+
+TEST_F(WizardWindow, IsBusyOnlyWhileABarInSightRuns) {
+    const auto* next = dialog->findChild<QPushButton*>("nextBtn");
+    outlets.ecTabView.select(10);
+    outlets.progress.startAnimation();
+    EXPECT_FALSE(next->isDefault());
+    outlets.ecTabView.select(ec::page::kComponents); // the bar runs on, out of sight
+    EXPECT_TRUE(next->isDefault());
+    outlets.ecTabView.select(10);
+    EXPECT_FALSE(next->isDefault());
+    outlets.progress.stopAnimation();
+    EXPECT_TRUE(next->isDefault());
+}
 
 class WizardInAnAppearance : public testing::TestWithParam<bool> {
   protected:
