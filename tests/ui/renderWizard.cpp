@@ -18,7 +18,7 @@
 
 #include <QAbstractButton>
 #include <QApplication>
-#include <QDialog>
+#include <QFileDialog>
 #include <QTimer>
 
 #include "app/Program.h"
@@ -28,16 +28,24 @@
 
 namespace {
 
+constexpr int kNothingFound = 18; // the page of a patcher that has nothing to do
 constexpr int kBetweenDeeds = 40; // milliseconds in which the window paints itself
+
+/// The wizard's window, not a sheet that hangs on it.
+QWidget* windowInSight() {
+    for (QWidget* top : QApplication::topLevelWidgets())
+        if (top->isVisible() && top->objectName() == "window" && !top->parentWidget())
+            return top;
+    return nullptr;
+}
 
 /// The walker: the wizard, and what is still to be done with it.
 class Walk final : private controls::Control::Observer {
   public:
     using Deed = std::function<void(Walk&)>;
 
-    Walk(ec::ecController& itsWizard, const ports::LocalizedTexts& itsTexts, QString pictures,
-         QString suffix)
-        : wizard(itsWizard), texts(itsTexts), m_pictures(std::move(pictures)),
+    Walk(ec::ecController& itsWizard, const ports::Host& itsHost, QString pictures, QString suffix)
+        : wizard(itsWizard), host(itsHost), m_pictures(std::move(pictures)),
           m_suffix(std::move(suffix)) {
         wizard.window.addObserver(*this);
         wizard.processingText.addObserver(*this);
@@ -48,7 +56,7 @@ class Walk final : private controls::Control::Observer {
     }
 
     ec::ecController& wizard;
-    const ports::LocalizedTexts& texts;
+    const ports::Host& host;
 
     /// One deed at a time, whenever the event loop has nothing to do, also while a sheet is open.
     void begin(std::deque<Deed> deeds) {
@@ -57,10 +65,13 @@ class Walk final : private controls::Control::Observer {
     }
     /// The window as it is now, with what hangs on it; the last one of a name stays.
     void take(const char* what = "") {
-        const QDialog* window = stage::dialogOnScreen();
+        const QWidget* window = windowInSight();
+        save(window ? stage::pictureOf(*window) : QImage(), what);
+    }
+    void save(const QImage& picture, const char* what) {
         const QString page = QString("%1").arg(wizard.ecTabView.selected(), 2, 10, QChar('0'));
         const QString file = m_pictures + page + (*what ? "-" : "") + what + m_suffix + ".png";
-        if (window && stage::pictureOf(*window).save(file))
+        if (picture.save(file))
             ++m_taken;
         else
             fail("can't write " + file.toStdString());
@@ -156,28 +167,79 @@ Walk::Deed closeReader(const char* what) {
     };
 }
 
-/// A page without its way there, with the title that the tables give it.
+/// A page without its way there, with the title that the tables give it and the buttons that its
+/// entry leaves.
 Walk::Deed show(int page) {
     return [page](Walk& walk) {
-        walk.wizard.ecTabView.select(page);
+        ec::ecController& wizard = walk.wizard;
+        wizard.ecTabView.select(page);
         std::string title;
         for (const ec::PageTitle& its : ec::gInstallStateLabels)
             if (its.page == page)
-                title = walk.texts.lookUp(its.title);
-        walk.wizard.titleText.setText(title);
+                title = walk.host.texts.lookUp(its.title);
+        wizard.titleText.setText(title);
+        const bool isLast = !wizard.logBtn.isHidden() || page == kNothingFound;
+        wizard.runSelector(isLast ? "setDone" : "enableButtons");
+        if (!isLast)
+            wizard.runSelector("setNext");
+        if (page != ec::page::kQuitWord)
+            return;
+        wizard.backBtn.setEnabled(false);
+        wizard.nextBtn.setTitle(walk.host.texts.lookUp("Retry"));
     };
 }
+void openPanel(Walk& walk) {
+    ports::Chooser chooser;
+    chooser.title = walk.wizard.window.title();
+    chooser.folder = walk.host.places.system("/Applications");
+    chooser.types = {"app"};
+    (void)walk.host.fileChoosers.choose(chooser); // nobody chooses
+}
+/// A panel is a window of its own: it has its own picture.
+void closePanel(Walk& walk) {
+    for (QWidget* top : QApplication::topLevelWidgets())
+        if (auto* panel = qobject_cast<QFileDialog*>(top); panel && panel->isVisible()) {
+            walk.save(panel->grab().toImage(), "panel");
+            panel->reject();
+        }
+}
+
+/// Copies of Word as the page of locations lists them.
+class Copies final : public controls::TableDataSource {
+  public:
+    int numberOfRowsInTableView() override { return 2; }
+    std::string tableViewObjectValue(std::string_view column, int row) override {
+        if (column == "wordversion")
+            return row == 0 ? "16.30" : "15.41";
+        if (column == "startupPath")
+            return row == 0 ? "/Library/Application Support/Microsoft/Office365/User "
+                              "Content.localized/Startup.localized/Word"
+                            : "/Users/Shared/Word Startup";
+        return row == 0 ? "/Applications/Microsoft Word.app"
+                        : "/Applications/Office 2016/Microsoft Word.app";
+    }
+};
+
 /// What a run on a machine with all of it would say.
 void fillPages(Walk& walk) {
+    static Copies copies;
+    walk.wizard.acTbl.setDataSource(&copies);
+    walk.wizard.acTbl.reloadData();
     walk.wizard.patchFound.setText("/Applications/Scrivel 21/Scrivel 21.app");
     walk.wizard.processingText.setText("Processing: Penmark add-in");
     const std::pair<const char*, bool> outcomes[] = {
         {"Penmark add-in", true}, {"History", true}, {"Spotlight importer", false}};
     for (const auto& [component, succeeded] : outcomes)
-        walk.wizard.outcomes.push_back({walk.texts.translated(component), {}, succeeded});
+        walk.wizard.outcomes.push_back({walk.host.texts.translated(component), {}, succeeded});
 }
 void work(Walk& walk) {
+    walk.wizard.runSelector("disableButtons");
+    walk.wizard.nextBtn.setEnabled(false);
     walk.wizard.progress.startAnimation();
+}
+
+void rest(Walk& walk) {
+    walk.wizard.nextBtn.setEnabled(true);
 }
 
 struct Way {
@@ -234,9 +296,10 @@ const std::array kWays{
     Way{"pages", openCustomizer,
         [] {
             Deeds deeds{fillPages};
-            deeds.insert(deeds.end(), {show(10), work, take});
+            deeds.insert(deeds.end(), {show(10), work, take, rest});
             for (const int page : {7, 9, 11, 12, 16, 17, 18, 23, 25, 27, 28})
                 deeds.insert(deeds.end(), {show(page), take});
+            deeds.insert(deeds.end(), {show(25), openPanel, closePanel});
             return deeds;
         }},
 };
@@ -258,8 +321,7 @@ int main(int argc, char** argv) {
     options.noLaunch = true;
     app::Program program(options, {}, argc, argv);
     ec::ecController wizard(program.host(), program.rules(), program.root());
-    Walk walk(wizard, program.host().texts, QString("%1/wizard-%2-").arg(argv[3], argv[1]),
-              argv[2]);
+    Walk walk(wizard, program.host(), QString("%1/wizard-%2-").arg(argv[3], argv[1]), argv[2]);
     walk.begin(way->deeds());
     way->open(wizard);
     program.finishBackgroundWork();
