@@ -11,7 +11,7 @@ build_packages=(
 # What the tests compare with and run in.
 test_packages=(zip unzip libarchive-tools attr e2fsprogs xvfb xauth xdotool x11-utils sudo procps)
 # A display where there is none, and pictures of it.
-virtual_display_packages=(xvfb xauth xdotool x11-utils imagemagick)
+virtual_display_packages=(xvfb xauth xdotool x11-utils imagemagick fonts-noto-cjk)
 
 say() { printf '%s\n' "== $*"; }
 

@@ -1,5 +1,7 @@
 #include "ui/ComponentTree.h"
 
+#include <algorithm>
+
 #include <QHeaderView>
 #include <QKeyEvent>
 #include <QStyledItemDelegate>
@@ -10,7 +12,9 @@ namespace ui {
 
 namespace {
 
-constexpr double kNameShare = 0.42; // of what the check boxes leave
+constexpr double kNameShare = 0.6; // at most, of what the check boxes leave
+
+constexpr int kAir = 12; // between a name and what stands beside it
 
 /// Greys the rows that can't be set; everything else the style draws.
 class RowDelegate final : public QStyledItemDelegate {
@@ -39,6 +43,7 @@ ComponentTree::ComponentTree(QWidget* parent) : QTreeView(parent) {
     setVerticalScrollMode(ScrollPerPixel);
     header()->setSectionsMovable(false);
     header()->setHighlightSections(false);
+    header()->setResizeContentsPrecision(0); // by the rows in sight; others are not even asked for
 }
 
 void ComponentTree::showRows(OutlineModel& model) {
@@ -76,8 +81,10 @@ void ComponentTree::layOutColumns() {
     header()->setStretchLastSection(true);
     header()->setSectionResizeMode(m_rows->checkColumn(), QHeaderView::Fixed);
     header()->resizeSection(m_rows->checkColumn(), check);
-    header()->resizeSection(m_rows->nameColumn(),
-                            static_cast<int>((viewport()->width() - check) * kNameShare));
+    const int most = static_cast<int>((viewport()->width() - check) * kNameShare);
+    const int names = std::max(sizeHintForColumn(m_rows->nameColumn()),
+                               header()->sectionSizeHint(m_rows->nameColumn()));
+    header()->resizeSection(m_rows->nameColumn(), std::min(names + kAir, most));
 }
 
 void ComponentTree::showEvent(QShowEvent* event) {

@@ -20,6 +20,7 @@ namespace ui {
 namespace {
 
 constexpr qreal kMargin = 16;
+constexpr int kAirAboveAnchor = 8;
 
 QString styleSheetFor(const QPalette& palette) {
     const QString text = palette.color(QPalette::Text).name();
@@ -125,8 +126,11 @@ void DocumentBrowser::showAgain() {
 }
 
 void DocumentBrowser::goToAnchor() {
-    if (!m_anchor.isEmpty())
-        scrollToAnchor(m_anchor);
+    if (m_anchor.isEmpty())
+        return;
+    scrollToAnchor(m_anchor);
+    // with some air above, so that the heading does not look cut
+    verticalScrollBar()->setValue(verticalScrollBar()->value() - kAirAboveAnchor);
 }
 
 QVariant DocumentBrowser::loadResource(int type, const QUrl& name) {

@@ -4,6 +4,7 @@
 
 #include <QBoxLayout>
 #include <QDialog>
+#include <QFontDatabase>
 #include <QLabel>
 #include <QPushButton>
 
@@ -19,8 +20,15 @@ namespace ui {
 namespace {
 
 constexpr int kMargin = 20;
-constexpr QSize kSize(640, 460);
-constexpr int kLeft = 40; // of the window beside and below the sheet
+constexpr QSize kSize(700, 480); // a line of the log has 80 letters and more
+constexpr int kLeft = 40;        // of the window beside and below the sheet
+
+/// Of a text without a file of its own: a log, whose lines are laid out for one width a letter.
+QFont fontOfLines() {
+    QFont font = QFontDatabase::systemFont(QFontDatabase::FixedFont);
+    font.setPointSizeF(9);
+    return font;
+}
 
 class ReaderDialog final : public QDialog {
   public:
@@ -38,11 +46,13 @@ class ReaderDialog final : public QDialog {
 
         m_text->setAccessibleName(title);
         m_text->speak(texts);
-        if (matter.file.empty())
+        if (matter.file.empty()) {
+            m_text->setFont(fontOfLines());
             m_text->showText(controls::StyledText::plain(matter.text));
-        else
+        } else {
             m_text->showFile(QString::fromStdString(matter.file),
                              QString::fromStdString(matter.anchor));
+        }
 
         auto* close = new QPushButton(localized(texts, "Close"));
         close->setObjectName("closeReader");

@@ -1,6 +1,9 @@
 #include "ui/StyledHtml.h"
 
 #include <algorithm>
+#include <vector>
+
+#include <QStringList>
 
 #include "ui/Colours.h"
 
@@ -19,14 +22,49 @@ QString cssColour(const controls::Colour& colour) {
         .arg(qRound(c.alphaF() * 100));
 }
 
-QString span(const controls::TextRun& run, const QString& line) {
-    QString style;
-    if (run.colour)
-        style += "color:" + cssColour(*run.colour) + ';';
-    if (run.bold)
-        style += "font-weight:600;";
-    return "<span style=\"" + style + "\">" + line.toHtmlEscaped() + "</span>";
+QString span(const QString& style, const QString& words) {
+    return words.isEmpty() ? words
+                           : "<span style=\"" + style + "\">" + words.toHtmlEscaped() + "</span>";
 }
+
+QString styleOf(const controls::TextRun& run, bool bold) {
+    return (run.colour ? "color:" + cssColour(*run.colour) + ';' : QString()) +
+           (bold ? "font-weight:600;" : "");
+}
+
+/// One line of a text, piece by piece. A bullet at its beginning and the blanks after it look alike
+/// in every line, so that what they lead to begins at the same place all the way down: one weight,
+/// and blanks of a format of their own, because the toolkit rounds the width of what has one
+/// format.
+class Paragraph {
+  public:
+    void add(const controls::TextRun& run, const QString& piece) {
+        qsizetype at = 0;
+        if (m_html.isEmpty() && piece.startsWith(kBullet)) {
+            m_html += span(styleOf(run, true), piece.left(++at));
+            m_isInLead = true;
+        }
+        const qsizetype blanks = at;
+        while (m_isInLead && at < piece.size() && piece[at] == ' ')
+            ++at;
+        m_isInLead = m_isInLead && at == piece.size();
+        m_html += span("color:transparent", piece.mid(blanks, at - blanks));
+        m_html += span(styleOf(run, run.bold), piece.mid(at));
+    }
+    bool isEmpty() const { return m_html.isEmpty(); }
+    QString html(double spacing) const {
+        return QStringLiteral("<p style=\"%1margin:0 0 %2px 0;white-space:pre-wrap\">%3</p>")
+            .arg(m_html.isEmpty() ? "-qt-paragraph-type:empty;" : "")
+            .arg(spacing)
+            .arg(m_html);
+    }
+
+  private:
+    static constexpr QChar kBullet = u'\u2022';
+
+    QString m_html;
+    bool m_isInLead = false;
+};
 
 } // namespace
 
@@ -38,24 +76,20 @@ bool isPlain(const controls::StyledText& text) {
 }
 
 QString asHtml(const controls::StyledText& text) {
-    QStringList paragraphs{QString()};
+    std::vector<Paragraph> paragraphs(1);
     for (const controls::TextRun& run : text.runs) {
         const QStringList lines = QString::fromStdString(run.text).split('\n');
         for (qsizetype i = 0; i < lines.size(); ++i) {
             if (i > 0)
-                paragraphs.append(QString());
-            if (!lines[i].isEmpty())
-                paragraphs.last() += span(run, lines[i]);
+                paragraphs.emplace_back();
+            paragraphs.back().add(run, lines[i]);
         }
     }
-    if (paragraphs.last().isEmpty())
-        paragraphs.removeLast();
+    if (paragraphs.back().isEmpty())
+        paragraphs.pop_back();
     QString html;
-    for (const QString& paragraph : paragraphs)
-        html += QStringLiteral("<p style=\"%1margin:0 0 %2px 0;white-space:pre-wrap\">%3</p>")
-                    .arg(paragraph.isEmpty() ? "-qt-paragraph-type:empty;" : "")
-                    .arg(text.paragraphSpacing)
-                    .arg(paragraph);
+    for (const Paragraph& paragraph : paragraphs)
+        html += paragraph.html(text.paragraphSpacing);
     return html;
 }
 

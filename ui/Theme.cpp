@@ -102,6 +102,43 @@ void drawHeaderGround(const QStyleOption* option, QPainter* painter) {
     painter->restore();
 }
 
+/// The ground of a menu bar with the line below it that parts it from the window.
+void drawMenuBarGround(const QStyleOption* option, QPainter* painter) {
+    painter->save();
+    painter->fillRect(option->rect, option->palette.color(QPalette::Window));
+    painter->setPen(option->palette.color(QPalette::Mid));
+    painter->drawLine(option->rect.bottomLeft(), option->rect.bottomRight());
+    painter->restore();
+}
+
+/// An open menu: raised above a dark window by a lighter ground, above a light one by its edge.
+void drawMenuGround(const QStyleOption* option, QPainter* painter) {
+    painter->save();
+    painter->setPen(outline(option->palette));
+    painter->setBrush(option->palette.color(QPalette::Active, QPalette::Button));
+    painter->drawRect(option->rect.adjusted(0, 0, -1, -1));
+    painter->restore();
+}
+
+/// A menu's name in the bar, on the accent while its menu is open.
+void drawMenuBarItem(const QStyleOptionMenuItem& item, QPainter* painter) {
+    drawMenuBarGround(&item, painter);
+    const bool open = item.state & (QStyle::State_Sunken | QStyle::State_Selected);
+    painter->save();
+    if (open) {
+        painter->setRenderHint(QPainter::Antialiasing);
+        painter->setPen(Qt::NoPen);
+        painter->setBrush(item.palette.color(QPalette::Active, QPalette::Highlight));
+        painter->drawRoundedRect(QRectF(item.rect).adjusted(2, 3, -2, -4), kRadius - 2,
+                                 kRadius - 2);
+    }
+    const bool enabled = item.state & QStyle::State_Enabled;
+    QApplication::style()->drawItemText(
+        painter, item.rect, Qt::AlignCenter | Qt::TextHideMnemonic | Qt::TextSingleLine,
+        item.palette, enabled, item.text, open ? QPalette::HighlightedText : QPalette::WindowText);
+    painter->restore();
+}
+
 } // namespace
 
 Theme::Theme() : QProxyStyle("fusion") {}
@@ -130,7 +167,10 @@ void Theme::polish(QWidget* widget) {
         widget->setFont(font);
         const QPalette appearance = QApplication::palette();
         QPalette palette = widget->palette();
-        palette.setColor(QPalette::WindowText, appearance.color(look.text));
+        for (const auto group : {QPalette::Active, QPalette::Inactive})
+            palette.setColor(group, QPalette::WindowText, appearance.color(group, look.text));
+        palette.setColor(QPalette::Disabled, QPalette::WindowText,
+                         appearance.color(QPalette::Disabled, QPalette::WindowText));
         palette.setColor(QPalette::Window, appearance.color(look.ground));
         widget->setPalette(palette);
     }
@@ -210,6 +250,8 @@ void Theme::drawPrimitive(PrimitiveElement element, const QStyleOption* option, 
     case PE_Frame:
     case PE_FrameLineEdit:
         return drawFrame(*option, *painter);
+    case PE_PanelMenu:
+        return drawMenuGround(option, painter);
     case PE_IndicatorBranch:
         return drawBranch(*option, *painter);
     case PE_PanelLineEdit:
@@ -291,6 +333,11 @@ void Theme::drawControl(ControlElement element, const QStyleOption* option, QPai
             coloured.palette.setColor(QPalette::ButtonText, Qt::white);
         return QProxyStyle::drawControl(element, &coloured, painter, widget);
     }
+    if (element == CE_MenuBarEmptyArea)
+        return drawMenuBarGround(option, painter);
+    if (const auto* item = qstyleoption_cast<const QStyleOptionMenuItem*>(option);
+        element == CE_MenuBarItem && item)
+        return drawMenuBarItem(*item, painter);
     if (element == CE_HeaderSection || element == CE_HeaderEmptyArea)
         return drawHeaderGround(option, painter);
     QProxyStyle::drawControl(element, option, painter, widget);

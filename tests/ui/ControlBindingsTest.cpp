@@ -12,8 +12,10 @@
 #include <QStackedWidget>
 #include <QTableView>
 #include <QTest>
+#include <QTextBlock>
 #include <QTextDocument>
 #include <QTextFrame>
+#include <QTextLayout>
 
 #include "tests/ui/ControlsStage.h"
 #include "ui/PictureView.h"
@@ -230,6 +232,27 @@ TEST_F(ControlBindings, ShowAnOutlineOfNamesLineByLine) {
     EXPECT_EQ(weightOf(shown.begin().next()), QFont::DemiBold);
     const QColor later = shown.lastBlock().begin().fragment().charFormat().foreground().color();
     EXPECT_EQ(later, QColor(51, 51, 51, 204));
+}
+
+TEST(StyledHtml, BeginsTheWordsAfterABulletAtTheSamePlaceInEveryLine) {
+    const controls::Colour blue{0, 0.5, 0.71, 1};
+    controls::StyledText text;
+    text.runs = {{"\u2022", blue, true},
+                 {"  Hello\n", {}, false},
+                 {"\u2022", blue, true},
+                 {"  Hello\n", {}, true},
+                 {"\u2022  Hello\n", controls::Colour{}, false}};
+    QTextDocument shown;
+    shown.setHtml(ui::asHtml(text));
+    shown.setTextWidth(400);
+    shown.size(); // lays it out
+    std::vector<qreal> starts;
+    for (QTextBlock line = shown.begin(); line.isValid(); line = line.next())
+        starts.push_back(line.layout()->lineAt(0).cursorToX(3));
+    ASSERT_EQ(starts.size(), 3u);
+    EXPECT_GT(starts[0], 0);
+    EXPECT_EQ(starts[1], starts[0]);
+    EXPECT_EQ(starts[2], starts[0]);
 }
 
 TEST(StyledHtml, KeepsEmptyLinesAndBlanksAndTakesMarkupAsText) {

@@ -11,8 +11,9 @@ namespace ui {
 
 ButtonBinding::ButtonBinding(controls::Button& button, QPushButton& widget)
     : Binding(button), m_widget(widget) {
-    takeFirstState(button, widget);
+    const FirstState state(widget);
     button.setTitle(widget.text().toStdString());
+    state.giveTo(button);
     mirror(button);
     connect(&widget, &QPushButton::clicked, this, [this] {
         if (model())

@@ -8,7 +8,7 @@ DocumentBinding::DocumentBinding(controls::DocumentView& document, DocumentBrows
                                  const ports::LocalizedTexts& texts)
     : Binding(document), m_widget(widget) {
     widget.speak(texts);
-    takeFirstState(document, widget);
+    FirstState(widget).giveTo(document);
     mirror(document);
 }
 

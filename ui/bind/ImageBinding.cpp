@@ -6,7 +6,7 @@ namespace ui {
 
 ImageBinding::ImageBinding(controls::ImageView& image, PictureView& widget, Pictures& pictures)
     : Binding(image), m_widget(widget), m_pictures(pictures) {
-    takeFirstState(image, widget);
+    FirstState(widget).giveTo(image);
     mirror(image);
 }
 

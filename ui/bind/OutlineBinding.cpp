@@ -11,8 +11,8 @@ OutlineBinding::OutlineBinding(controls::OutlineView& outline, ComponentTree& wi
     : Binding(outline), m_widget(widget),
       m_rows({.view = outline, .columns = Columns::of(widget, &texts), .texts = texts}),
       m_generation(outline.generation()) {
-    takeFirstState(outline, widget);
     widget.showRows(m_rows);
+    FirstState(widget).giveTo(outline);
     connect(widget.selectionModel(), &QItemSelectionModel::selectionChanged, this, [this] {
         const auto rows = m_widget.selectionModel()->selectedRows(m_rows.nameColumn());
         if (model())

@@ -31,7 +31,7 @@ constexpr Unit kUnits[] = {
 
 ProgressBinding::ProgressBinding(controls::Progress& progress, Needs needs)
     : Binding(progress), m_needs(needs) {
-    takeFirstState(progress, needs.bar);
+    FirstState(needs.bar).giveTo(progress);
     mirror(progress);
 }
 

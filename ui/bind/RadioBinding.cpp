@@ -6,7 +6,7 @@ namespace ui {
 
 RadioBinding::RadioBinding(controls::RadioMatrix& matrix, QWidget& widget)
     : Binding(matrix), m_widget(widget) {
-    takeFirstState(matrix, widget);
+    FirstState(widget).giveTo(matrix);
     const auto cells = cellsOf(widget);
     for (int row = 0; row < cells.size(); ++row)
         // a click, and an arrow key that comes from the next cell

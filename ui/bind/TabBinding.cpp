@@ -29,7 +29,7 @@ QWidget* defaultButton(const QWidget& window) {
 
 TabBinding::TabBinding(controls::TabView& tabs, QStackedWidget& widget)
     : Binding(tabs), m_widget(widget) {
-    takeFirstState(tabs, widget);
+    FirstState(widget).giveTo(tabs);
     mirror(tabs);
 }
 

@@ -10,8 +10,8 @@ namespace ui {
 TableBinding::TableBinding(controls::TableView& table, QTableView& widget,
                            const ports::LocalizedTexts& texts)
     : Binding(table), m_widget(widget), m_rows(table, Columns::of(widget, &texts)) {
-    takeFirstState(table, widget);
     widget.setModel(&m_rows);
+    FirstState(widget).giveTo(table);
     widget.setSelectionBehavior(QTableView::SelectRows);
     widget.setSelectionMode(QTableView::SingleSelection);
     widget.setEditTriggers(QTableView::NoEditTriggers);
@@ -25,6 +25,10 @@ TableBinding::TableBinding(controls::TableView& table, QTableView& widget,
                                                    4);
     widget.horizontalHeader()->setHighlightSections(false);
     widget.horizontalHeader()->setSectionResizeMode(QHeaderView::Stretch);
+    // paths get the room, not what is short
+    const int last = m_rows.columnCount() - 1;
+    if (last > 0)
+        widget.horizontalHeader()->setSectionResizeMode(last, QHeaderView::ResizeToContents);
     connect(widget.selectionModel(), &QItemSelectionModel::selectionChanged, this, [this] {
         if (model() && !m_mirrors)
             model()->selectRow(selectedRow());

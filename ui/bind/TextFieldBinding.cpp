@@ -7,8 +7,9 @@ namespace ui {
 
 TextFieldBinding::TextFieldBinding(controls::TextField& field, QLabel& widget)
     : Binding(field), m_widget(widget) {
-    takeFirstState(field, widget);
+    const FirstState state(widget);
     field.setText(widget.text().toStdString());
+    state.giveTo(field);
     mirror(field);
 }
 
@@ -17,7 +18,8 @@ void TextFieldBinding::mirror(const controls::TextField& field) {
     m_widget.setTextFormat(plain ? Qt::PlainText : Qt::RichText);
     m_widget.setText(plain ? QString::fromStdString(field.text()) : asHtml(field.styledText()));
     m_widget.setEnabled(field.isEnabled());
-    m_widget.setVisible(!field.isHidden());
+    const bool collapses = m_widget.property(kCollapses).toBool();
+    m_widget.setVisible(!field.isHidden() && !(collapses && field.text().empty()));
 }
 
 } // namespace ui

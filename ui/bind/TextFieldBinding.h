@@ -8,6 +8,9 @@
 
 namespace ui {
 
+/// Dynamic property of a label, also in interface files (bool): it takes no room while it is empty.
+inline constexpr char kCollapses[] = "collapses";
+
 class TextFieldBinding final : public Binding<controls::TextField> {
   public:
     /// The model takes text, enabling and visibility from the widget; later the widget follows the

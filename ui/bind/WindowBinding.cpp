@@ -17,8 +17,10 @@ WindowBinding::WindowBinding(controls::Window& window, QDialog& widget)
     for (QPushButton* button : widget.findChildren<QPushButton*>())
         if (button->isDefault())
             m_default = button;
-    for (ProgressBar* bar : widget.findChildren<ProgressBar*>())
+    for (ProgressBar* bar : widget.findChildren<ProgressBar*>()) {
         connect(bar, &ProgressBar::runningChanged, this, [this] { busyChanged(); });
+        bar->installEventFilter(this);
+    }
     // the one that came last takes the input; those below it wait until it is gone
     widget.setWindowModality(Qt::ApplicationModal);
     widget.installEventFilter(this);
@@ -36,7 +38,9 @@ void WindowBinding::show() {
     if (!m_placed) {
         // only the first time: later the window stays where the user has put it
         m_placed = true;
-        m_widget.adjustSize();
+        // one that the user can resize opens as the interface file has it
+        if (m_widget.minimumSize() == m_widget.maximumSize())
+            m_widget.adjustSize();
         QRect frame(QPoint(), m_widget.size());
         frame.moveCenter(m_widget.screen()->availableGeometry().center());
         m_widget.move(frame.topLeft());
@@ -46,8 +50,9 @@ void WindowBinding::show() {
 }
 
 bool WindowBinding::isBusy() const {
-    return std::ranges::any_of(m_widget.findChildren<ProgressBar*>(),
-                               [](const ProgressBar* bar) { return bar->isRunning(); });
+    return std::ranges::any_of(
+        m_widget.findChildren<ProgressBar*>(),
+        [this](const ProgressBar* bar) { return bar->isRunning() && bar->isVisibleTo(&m_widget); });
 }
 
 void WindowBinding::busyChanged() {
@@ -59,6 +64,11 @@ void WindowBinding::busyChanged() {
 }
 
 bool WindowBinding::eventFilter(QObject* watched, QEvent* event) {
+    if (watched != &m_widget) { // a bar
+        if (event->type() == QEvent::Show || event->type() == QEvent::Hide)
+            busyChanged();
+        return QObject::eventFilter(watched, event);
+    }
     if (!model())
         return QObject::eventFilter(watched, event);
     if (event->type() == QEvent::Close) {

@@ -11,7 +11,7 @@
 
 namespace ui {
 
-/// While a progress bar of the window runs, Escape does nothing, and Return no longer presses the
+/// While a progress bar in sight runs, Escape does nothing, and Return no longer presses the
 /// default button: a second press must not cancel what the first one began.
 class WindowBinding final : public QObject, public Binding<controls::Window> {
   public:
