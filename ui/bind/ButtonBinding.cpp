@@ -11,8 +11,9 @@ namespace ui {
 
 ButtonBinding::ButtonBinding(controls::Button& button, QPushButton& widget)
     : Binding(button), m_widget(widget) {
-    takeFirstState(button, widget);
+    // first of all: the state may be told at once, and the widget mirrors the title then
     button.setTitle(widget.text().toStdString());
+    takeFirstState(button, widget);
     mirror(button);
     connect(&widget, &QPushButton::clicked, this, [this] {
         if (model())

@@ -39,7 +39,10 @@ void TabBinding::mirror(const controls::TabView& tabs) {
     if (m_widget.currentIndex() == tabs.selected())
         return;
     const QWidget* focus = m_widget.window()->focusWidget();
-    const bool goes = focus && m_widget.currentWidget()->isAncestorOf(focus);
+    // with its page, or gone already with a button that was disabled or a page that was left
+    const bool isLost = !focus || !focus->isEnabled() || !focus->isVisible();
+    const bool goes =
+        m_widget.isVisible() && (isLost || m_widget.currentWidget()->isAncestorOf(focus));
     m_widget.setCurrentIndex(tabs.selected());
     if (!goes)
         return;
