@@ -1,5 +1,6 @@
 #include "ui/bind/TabBinding.h"
 
+#include <QApplication>
 #include <QPushButton>
 
 #include "ui/bind/FirstState.h"
@@ -25,12 +26,27 @@ QWidget* defaultButton(const QWidget& window) {
     return nullptr;
 }
 
+/// With a button that was disabled or a page that was left.
+bool isLost(const QWidget* focus) {
+    return !focus || !focus->isEnabled() || !focus->isVisible();
+}
+
 } // namespace
 
 TabBinding::TabBinding(controls::TabView& tabs, QStackedWidget& widget)
     : Binding(tabs), m_widget(widget) {
     takeFirstState(tabs, widget);
     mirror(tabs);
+    // What had the keyboard may be disabled after its page came up. Queued: the page is still being
+    // arranged.
+    const auto lookAgain = [this] {
+        if (m_widget.isVisible() && isLost(m_widget.window()->focusWidget()))
+            takeKeyboard();
+    };
+    connect(qApp, &QApplication::focusChanged, this, [=, this](const QWidget*, const QWidget* now) {
+        if (!now)
+            QMetaObject::invokeMethod(this, lookAgain, Qt::QueuedConnection);
+    });
 }
 
 void TabBinding::mirror(const controls::TabView& tabs) {
@@ -39,13 +55,14 @@ void TabBinding::mirror(const controls::TabView& tabs) {
     if (m_widget.currentIndex() == tabs.selected())
         return;
     const QWidget* focus = m_widget.window()->focusWidget();
-    // with its page, or gone already with a button that was disabled or a page that was left
-    const bool isLost = !focus || !focus->isEnabled() || !focus->isVisible();
     const bool goes =
-        m_widget.isVisible() && (isLost || m_widget.currentWidget()->isAncestorOf(focus));
+        m_widget.isVisible() && (isLost(focus) || m_widget.currentWidget()->isAncestorOf(focus));
     m_widget.setCurrentIndex(tabs.selected());
-    if (!goes)
-        return;
+    if (goes)
+        takeKeyboard();
+}
+
+void TabBinding::takeKeyboard() {
     QWidget* next = firstWithKeyboard(*m_widget.currentWidget());
     if (!next)
         next = defaultButton(*m_widget.window());
