@@ -187,6 +187,20 @@ TEST_F(WizardKeys, EveryPageWithContentsIsInOrderAlsoThoseThatNoModeLeadsTo) {
     walk(modes::kCustomize, deeds);
 }
 
+TEST_F(WizardKeys, TheKeyboardBeginsAtTheComponents) {
+    walk(modes::kCustomize, {[] {
+             EXPECT_EQ(focusName(), "ecOutlineView");
+             press(Qt::Key_Escape);
+         }});
+}
+
+TEST_F(WizardKeys, TheKeyboardBeginsAtTheChoiceOfPenmark) {
+    walk(modes::kPenmark, {[] {
+             EXPECT_EQ(focusName(), "penmarkInstall");
+             press(Qt::Key_Escape);
+         }});
+}
+
 TEST_F(WizardKeys, TheKeyboardStaysOnThePageThatIsInSight) {
     walk(modes::kPenmark, {[] { tabTo("penmarkInstall"); }, key(Qt::Key_Return),
                            [] {

@@ -1,6 +1,7 @@
 #include "ui/bind/TabBinding.h"
 
 #include <QApplication>
+#include <QEvent>
 #include <QPushButton>
 
 #include "ui/bind/FirstState.h"
@@ -43,6 +44,7 @@ TabBinding::TabBinding(controls::TabView& tabs, QStackedWidget& widget)
         if (m_widget.isVisible() && isLost(m_widget.window()->focusWidget()))
             takeKeyboard();
     };
+    widget.installEventFilter(this);
     connect(qApp, &QApplication::focusChanged, this, [=, this](const QWidget*, const QWidget* now) {
         if (!now)
             QMetaObject::invokeMethod(this, lookAgain, Qt::QueuedConnection);
@@ -60,6 +62,14 @@ void TabBinding::mirror(const controls::TabView& tabs) {
     m_widget.setCurrentIndex(tabs.selected());
     if (goes)
         takeKeyboard();
+}
+
+bool TabBinding::eventFilter(QObject* watched, QEvent* event) {
+    // Else the toolkit would begin at whatever button comes first. Queued: a window may come into
+    // sight some pages before the one that it waits at.
+    if (event->type() == QEvent::Show && !event->spontaneous())
+        QMetaObject::invokeMethod(this, [this] { takeKeyboard(); }, Qt::QueuedConnection);
+    return QObject::eventFilter(watched, event);
 }
 
 void TabBinding::takeKeyboard() {

@@ -25,6 +25,7 @@ class TabBinding final : public QObject, public Binding<controls::TabView> {
     /// that takes it, or to the window's default button.
     void mirror(const controls::TabView& tabs) override;
     void drawNow() override { m_widget.repaint(); }
+    bool eventFilter(QObject* watched, QEvent* event) override;
 
     /// To the first control of the page, else to the window's default button.
     void takeKeyboard();
