@@ -6,9 +6,11 @@
 #include <QDir>
 #include <QEvent>
 #include <QFile>
+#include <QPainter>
 #include <QScrollBar>
 #include <QShortcut>
 #include <QStringDecoder>
+#include <QStyleOptionFocusRect>
 
 #include "ui/Colours.h"
 #include "ui/FindBar.h"
@@ -204,6 +206,34 @@ void DocumentBrowser::layOutFindBar() {
 void DocumentBrowser::resizeEvent(QResizeEvent* event) {
     QTextBrowser::resizeEvent(event);
     layOutFindBar();
+}
+
+void DocumentBrowser::paintEvent(QPaintEvent* event) {
+    QTextBrowser::paintEvent(event);
+    if (!hasFocus())
+        return;
+    QStyleOptionFocusRect ring;
+    ring.initFrom(this);
+    ring.rect = viewport()->rect();
+    ring.backgroundColor = palette().color(QPalette::Base);
+    QPainter painter(viewport());
+    style()->drawPrimitive(QStyle::PE_FrameFocusRect, &ring, &painter, this);
+}
+
+void DocumentBrowser::focusInEvent(QFocusEvent* event) {
+    QTextBrowser::focusInEvent(event);
+    viewport()->update();
+}
+
+void DocumentBrowser::focusOutEvent(QFocusEvent* event) {
+    QTextBrowser::focusOutEvent(event);
+    viewport()->update();
+}
+
+void DocumentBrowser::scrollContentsBy(int dx, int dy) {
+    QTextBrowser::scrollContentsBy(dx, dy);
+    if (hasFocus())
+        viewport()->update(); // the ring must not go with the text
 }
 
 void DocumentBrowser::changeEvent(QEvent* event) {

@@ -45,6 +45,11 @@ class DocumentBrowser final : public QTextBrowser {
     QVariant loadResource(int type, const QUrl& name) override;
     void changeEvent(QEvent* event) override;
     void resizeEvent(QResizeEvent* event) override;
+    /// The text has no frame that could show that the keyboard is here: a ring is drawn over it.
+    void paintEvent(QPaintEvent* event) override;
+    void focusInEvent(QFocusEvent* event) override;
+    void focusOutEvent(QFocusEvent* event) override;
+    void scrollContentsBy(int dx, int dy) override;
 
   private:
     void showAgain();

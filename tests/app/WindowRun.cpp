@@ -95,7 +95,7 @@ void WindowRun::TearDown() {
     InstallerRun::TearDown();
 }
 
-void WindowRun::start() {
+void WindowRun::start(const std::string& command) {
     std::vector<std::string> entries = {"TMPDIR=" + temporary.string(),
                                         "XDG_RUNTIME_DIR=" + folder.string(), "QT_QPA_PLATFORM=xcb",
                                         "QT_SCALE_FACTOR=1",
@@ -112,7 +112,7 @@ void WindowRun::start() {
     display();
     m_program = std::make_unique<posix::ChildProcess>();
     ASSERT_EQ(m_program->start({.program = bundle / "Contents/MacOS/Scrivel 21 Installer",
-                                .arguments = {"install", "--root", root, "--home", home, "--events",
+                                .arguments = {command, "--root", root, "--home", home, "--events",
                                               "--no-launch"},
                                 .output = output.number(),
                                 .error = error.number(),
@@ -120,8 +120,8 @@ void WindowRun::start() {
               0);
 }
 
-void WindowRun::open() {
-    start();
+void WindowRun::open(const std::string& command) {
+    start(command);
     waitUntil("the window", [this] { return !windows().empty(); });
     m_window = windows().front();
 }
@@ -167,6 +167,11 @@ void WindowRun::press(const WindowId& window, const std::string& key) {
     xdotoolOrThrow({"windowfocus", window, "key", key});
 }
 
+void WindowRun::pressAll(const WindowId& window, const std::vector<std::string>& keys) {
+    for (const std::string& key : keys)
+        press(window, key);
+}
+
 void WindowRun::requestClose(const WindowId& window) {
     xcb_client_message_event_t message{};
     message.response_type = XCB_CLIENT_MESSAGE;
@@ -192,6 +197,15 @@ void WindowRun::awaitEvent(const std::string& event, const std::string& member,
         return std::ranges::any_of(eventsSoFar(), [&](const Json& each) {
             return each.at("event") == event && (member.empty() || each.value(member, "") == value);
         });
+    });
+}
+
+void WindowRun::awaitPage(int page, std::size_t time) {
+    waitUntil("page " + std::to_string(page), [&] {
+        const auto events = eventsSoFar();
+        return std::ranges::count_if(events, [&](const Json& each) {
+                   return each.at("event") == "page" && each.at("page") == page;
+               }) >= static_cast<std::ptrdiff_t>(time);
     });
 }
 

@@ -37,9 +37,9 @@ class WindowRun : public InstallerRun {
     void TearDown() override;
 
     /// Starts the program, with events and without launching what it installs, and does not wait.
-    void start();
+    void start(const std::string& command = "install");
     /// The same, and waits for its window.
-    void open();
+    void open(const std::string& command = "install");
     WindowId window() const { return m_window; }
     /// Waits for a sheet, other than `before`.
     WindowId sheet(const WindowId& before = {});
@@ -49,6 +49,8 @@ class WindowRun : public InstallerRun {
 
     static void click(const WindowId& window, Spot spot);
     static void press(const WindowId& window, const std::string& key);
+    /// One key after the other.
+    static void pressAll(const WindowId& window, const std::vector<std::string>& keys);
     /// What a window manager does at a click on a title bar's close button.
     static void requestClose(const WindowId& window);
     void send(int signal) const;
@@ -56,6 +58,8 @@ class WindowRun : public InstallerRun {
     /// Waits for an event, and for its member of that name and value when one is given.
     void awaitEvent(const std::string& event, const std::string& member = {},
                     const std::string& value = {});
+    /// Waits until the wizard shows the page, counted from the run's beginning: the `time`th event.
+    void awaitPage(int page, std::size_t time = 1);
     /// Waits until the program has ended.
     Result end();
     bool hasEnded() { return m_program->hasEnded(); }

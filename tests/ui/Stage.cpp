@@ -193,6 +193,7 @@ Surroundings::Surroundings() {
         qputenv("QT_QPA_PLATFORM", "offscreen");
     qputenv("XDG_RUNTIME_DIR", m_runtime.path().toLocal8Bit());
     qputenv("LC_ALL", "C.UTF-8");
+    qInstallMessageHandler(dropOffscreenComplaints);
 }
 
 Front::Front(int& argc, char** argv)
@@ -210,7 +211,6 @@ Front& front() {
 
 int runTests(int argc, char** argv) {
     const Surroundings surroundings;
-    qInstallMessageHandler(dropOffscreenComplaints);
     testing::InitGoogleMock(&argc, argv);
     testing::AddGlobalTestEnvironment(new FrontEnvironment(argc, argv));
     return RUN_ALL_TESTS();

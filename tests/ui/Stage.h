@@ -94,7 +94,8 @@ ports::Alert unableAlert(const ports::LocalizedTexts& texts);
 QImage pictureOf(const QWidget& window);
 
 /// What the toolkit finds around it: the offscreen platform unless another one is named, a runtime
-/// folder of its own, and a locale that is the same everywhere. Made before the front end.
+/// folder of its own, and a locale that is the same everywhere; what only the offscreen platform
+/// complains of is not printed. Made before the front end.
 class Surroundings {
   public:
     Surroundings();

@@ -1,5 +1,7 @@
 #include "ui/bind/RadioBinding.h"
 
+#include <algorithm>
+
 #include "ui/bind/FirstState.h"
 
 namespace ui {
@@ -31,6 +33,10 @@ void RadioBinding::mirror(const controls::RadioMatrix& matrix) {
         cell.setChecked(matrix.isOn(row));
         cell.setAutoExclusive(true);
     }
+    // one stop for the Tab key, at the cell that is on; the arrow keys lead to the others
+    const int stop = std::max(matrix.selected(), 0);
+    for (int row = 0; row < cells.size(); ++row)
+        cells[row]->setFocusPolicy(row == stop ? Qt::StrongFocus : Qt::ClickFocus);
     m_widget.setEnabled(matrix.isEnabled());
     m_widget.setVisible(!matrix.isHidden());
 }

@@ -1,6 +1,7 @@
 // The pages of a window and their stacked widget: the model's page is the one in sight.
 #pragma once
 
+#include <QObject>
 #include <QStackedWidget>
 
 #include "platform/controls/TabView.h"
@@ -8,7 +9,7 @@
 
 namespace ui {
 
-class TabBinding final : public Binding<controls::TabView> {
+class TabBinding final : public QObject, public Binding<controls::TabView> {
   public:
     /// The model takes enabling and visibility from the widget; later the widget follows the model.
     /// The widget outlives the binding.
@@ -24,6 +25,10 @@ class TabBinding final : public Binding<controls::TabView> {
     /// that takes it, or to the window's default button.
     void mirror(const controls::TabView& tabs) override;
     void drawNow() override { m_widget.repaint(); }
+    bool eventFilter(QObject* watched, QEvent* event) override;
+
+    /// To the first control of the page, else to the window's default button.
+    void takeKeyboard();
 
     QStackedWidget& m_widget;
 };
