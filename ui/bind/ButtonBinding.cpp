@@ -11,9 +11,11 @@ namespace ui {
 
 ButtonBinding::ButtonBinding(controls::Button& button, QPushButton& widget)
     : Binding(button), m_widget(widget) {
-    // first of all: the state may be told at once, and the widget mirrors the title then
-    button.setTitle(widget.text().toStdString());
+    // read first: the state may be told at once, and the widget mirrors the model's empty title
+    // then
+    const std::string title = widget.text().toStdString();
     takeFirstState(button, widget);
+    button.setTitle(title);
     mirror(button);
     connect(&widget, &QPushButton::clicked, this, [this] {
         if (model())
