@@ -1,7 +1,6 @@
 // The adapters of one run: everything between the core and the system, and the watchers that tell
 // the event stream what goes by. Made by the composition root; knows no front end, but that the
-// window has texts of its own. The members
-// stand in the order of their needs.
+// window has texts of its own. The members stand in the order of their needs.
 #pragma once
 
 #include <functional>

@@ -1,4 +1,5 @@
-// A whole file of the wizard's, read to be shown: a picture, a text, the log. Any thread.
+// A whole file read at once: what the wizard shows (a picture, a text, the log), and the interface
+// files of a run without a window. Any thread.
 #pragma once
 
 #include <string>

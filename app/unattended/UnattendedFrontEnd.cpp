@@ -1,12 +1,11 @@
 #include "app/unattended/UnattendedFrontEnd.h"
 
 #include <algorithm>
-#include <fstream>
-#include <sstream>
 #include <utility>
 
 #include "app/CancelWindow.h"
 #include "app/generated/InterfaceDefaults.h"
+#include "wizard/FileBytes.h"
 
 namespace app {
 
@@ -17,13 +16,6 @@ constexpr std::chrono::milliseconds kLongestSleep{50};
 
 /// The interface file of the wizard's questions.
 constexpr std::string_view kQuestionInterface = "ecPanel";
-
-std::string contentsOf(const std::string& path) {
-    const std::ifstream file(path, std::ios::binary);
-    std::ostringstream text; // reading a folder this way is a failure, not an exception
-    text << file.rdbuf();
-    return text.str();
-}
 
 void giveTitle(const controls::Outlet& control, std::string_view title) {
     if (const auto* button = std::get_if<controls::Button*>(&control))
@@ -42,7 +34,8 @@ auto interfaceOf(const Interfaces& interfaces, const controls::Window& window) {
 } // namespace
 
 bool UnattendedFrontEnd::load(std::string_view name, controls::Interface& outlets) {
-    const std::string file = contentsOf(m_needs.resourceFolder + "/" + std::string(name) + ".ui");
+    const std::string file =
+        ec::bytesOfFile(m_needs.resourceFolder + "/" + std::string(name) + ".ui");
     const bool complete = std::ranges::all_of(outlets.outlets, [&](const auto& outlet) {
         return file.find("name=\"" + std::string(outlet.name) + "\"") != std::string::npos;
     });

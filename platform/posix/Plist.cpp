@@ -126,15 +126,6 @@ std::optional<std::string> Plist::string(std::string_view key) const {
     return stringOf(item(key));
 }
 
-std::map<std::string, std::string, std::less<>> Plist::strings() const {
-    std::map<std::string, std::string, std::less<>> all;
-    forEachEntry(m_list.get(), [&](const char* key, plist_t value) {
-        if (auto text = stringOf(value))
-            all.try_emplace(key, std::move(*text)); // of two equal keys the first counts
-    });
-    return all;
-}
-
 std::optional<std::vector<std::string>> Plist::array(std::string_view key) const {
     return stringsOf(item(key));
 }

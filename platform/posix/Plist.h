@@ -3,7 +3,6 @@
 // preferences. Input may be hostile: the guard (PlistGuard) looks it over first.
 #pragma once
 
-#include <map>
 #include <memory>
 #include <optional>
 #include <string>
@@ -28,9 +27,6 @@ class Plist {
     /// The string under `key` in the list's dictionary, as UTF-8. None when the list is no
     /// dictionary, the key is absent or its value is no string.
     std::optional<std::string> string(std::string_view key) const;
-
-    /// All strings of the list's dictionary by their keys; other values are left out.
-    std::map<std::string, std::string, std::less<>> strings() const;
 
     /// The strings of the array under `key`, other elements left out. None as for `string`.
     std::optional<std::vector<std::string>> array(std::string_view key) const;
