@@ -4,11 +4,14 @@
 #include <array>
 
 #include "app/CancelWindow.h"
+#include "engine/LogText.h"
 #include "wizard/LaunchModes.h"
 
 namespace app {
 
 namespace {
+
+using Result = ec::ComponentOutcome::Result;
 
 std::int32_t openFirstInstall(ec::ecController& wizard, const CommandLine& options) {
     const auto usual =
@@ -39,13 +42,52 @@ const WizardCommand* commandNamed(std::string_view name) {
     return found == kWizardCommands.end() ? nullptr : found;
 }
 
-/// The components that failed, by their titles.
+constexpr std::string_view wordFor(Result result) {
+    switch (result) {
+    case Result::installed:
+        return "installed";
+    case Result::removed:
+        return "removed";
+    case Result::unchanged:
+        return "unchanged";
+    case Result::refused:
+        return "refused";
+    case Result::failed:
+        break;
+    }
+    return "failed";
+}
+
+/// In English, whatever the user's language.
+std::string reasonOf(const ec::ComponentOutcome& outcome) {
+    return outcome.reason ? ec::formatted(outcome.reason->text.english(), {outcome.reason->about})
+                          : std::string();
+}
+
+/// The components that failed, each with its reason.
 std::string failuresOf(const ec::WizardSession& session) {
-    std::string titles;
+    std::string failures;
     for (const ec::ComponentOutcome& outcome : session.outcomes)
-        if (!outcome.succeeded)
-            titles += (titles.empty() ? "" : ", ") + outcome.title;
-    return titles;
+        if (!outcome.succeeded())
+            failures += (failures.empty() ? "" : " ") + outcome.name + ": " + reasonOf(outcome);
+    return failures;
+}
+
+bool wasRefused(const ec::WizardSession& session) {
+    return std::ranges::any_of(session.outcomes, [](const ec::ComponentOutcome& outcome) {
+        return outcome.result == Result::refused;
+    });
+}
+
+Event eventOf(const ec::ComponentOutcome& outcome) {
+    return {{"item", outcome.item ? Event(*outcome.item) : Event()},
+            {"name", outcome.name},
+            {"wanted", !outcome.mode                         ? Event()
+                       : *outcome.mode == ec::OpMode::remove ? Event("not installed")
+                                                             : Event("installed")},
+            {"result", wordFor(outcome.result)},
+            {"present", outcome.present},
+            {"reason", reasonOf(outcome)}};
 }
 
 } // namespace
@@ -75,10 +117,11 @@ RunOutcome WizardRun::run() {
     const std::int32_t result = commandNamed(options.command)->open(wizard, options);
     m_program.finishBackgroundWork();
     m_program.adapters().mainQueue.runPending();
+    for (const ec::ComponentOutcome& outcome : wizard.outcomes)
+        m_program.events().emit("component", eventOf(outcome));
     return outcomeOfWizard(wizard, {.result = result,
                                     .unfollowed = m_program.driver().failure(),
-                                    .cancelled = m_program.driver().cancelled(),
-                                    .refused = m_program.adapters().administrator.wasRefused()});
+                                    .cancelled = m_program.driver().cancelled()});
 }
 
 // The order is the order in which the codes are given where several hold.
@@ -109,10 +152,10 @@ RunOutcome outcomeOfWizard(const ec::ecController& wizard, const WizardEnding& e
     const std::string failures = failuresOf(wizard);
     if (failures.empty())
         return outcome;
-    if (ending.refused)
+    if (wasRefused(wizard))
         return ended(ExitCode::refused,
-                     "administrator rights were needed and refused: " + failures + " failed");
-    return ended(ExitCode::failed, failures + " failed; the log tells what the tools said");
+                     "administrator rights were needed and refused. " + failures);
+    return ended(ExitCode::failed, failures + " The log tells what the tools said.");
 }
 
 } // namespace app

@@ -32,7 +32,6 @@ struct WizardEnding {
     std::int32_t result = 0;               ///< the wizard's result code
     std::optional<std::string> unfollowed; ///< why the answers file could not be followed
     std::optional<std::string> cancelled;  ///< why the front end gave it up
-    bool refused = false;                  ///< administrator rights were refused
 };
 
 /// What came of a wizard that is closed now.

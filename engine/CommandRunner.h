@@ -44,6 +44,9 @@ class CommandRunner {
     /// `dethenticate`: ends the session, so that the next need asks again.
     void dethenticate();
 
+    /// Were the rights asked for in this session and not given?
+    bool rightsWereRefused() const { return m_authRef && !m_bDidAuthenticate; }
+
     /// `launchApp:params:` runs the tool as the user with the program's own output. Answers its
     /// exit status: 127 when it can't be started, 128 and the signal's number when one killed it.
     ExitStatus launchApp(std::string_view tool, const Params& params);

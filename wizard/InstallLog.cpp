@@ -2,12 +2,17 @@
 
 #include <array>
 #include <cstdio>
+#include <vector>
 
 #include "engine/LogText.h"
 
 namespace ec {
 
 namespace {
+
+constexpr std::string_view kStars = "******************************************************";
+constexpr std::string_view kFrame = "**                                                  **";
+constexpr std::string_view kBuild = "**    Build number: 19023";
 
 /// The platform's default text of a date: "2001-02-03 04:05:06 +0000", always in UTC.
 std::string dateText(std::chrono::system_clock::time_point time) {
@@ -85,6 +90,14 @@ void InstallLog::logInstall(std::string_view title, OpMode mode) {
 
 void InstallLog::logResult(int result, std::string_view text) {
     logMessage(std::string(text) + " Result= " + std::string(resultName(result)));
+}
+
+void InstallLog::logBanner(std::string_view titleLine, int emptyLines) {
+    std::vector<std::string_view> lines{kStars, kStars, kFrame, titleLine};
+    lines.insert(lines.end(), static_cast<std::size_t>(emptyLines), kFrame);
+    lines.insert(lines.end(), {kBuild, kFrame, kStars, kStars});
+    for (const std::string_view line : lines)
+        logMessage(line);
 }
 
 void InstallLog::logException(std::string_view text) {

@@ -59,6 +59,10 @@ class InstallLog {
     /// "No" (0), "Yes" (1), "Invalid" for any other.
     void logResult(int result, std::string_view text);
 
+    /// Writes the framed block that begins a run: the title line, which brings its own frame, and
+    /// the number of this build. `emptyLines` are the empty ones between the two.
+    void logBanner(std::string_view titleLine, int emptyLines = 2);
+
     /// `logException:` writes "Exception Raised TEXT"; `logException` the same with no text.
     void logException(std::string_view text);
     void logException() { logException({}); }

@@ -8,6 +8,8 @@ namespace ec {
 namespace launch {
 
 inline constexpr std::uint32_t kFirstInstall = 0; ///< and every number that is not listed here
+/// As the first install; but what the user is not asked about counts as installed.
+inline constexpr std::uint32_t kAssumedInstalled = 32;
 inline constexpr std::uint32_t kShortInstall = 34;
 inline constexpr std::uint32_t kCustomize = 35;
 inline constexpr std::uint32_t kPenmark = 36;

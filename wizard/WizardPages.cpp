@@ -3,8 +3,8 @@
 #include <cstddef>
 #include <span>
 
+#include "engine/FileBytes.h"
 #include "platform/formats/IconFamily.h"
-#include "wizard/FileBytes.h"
 #include "wizard/LaunchModes.h"
 
 namespace ec {

@@ -7,18 +7,11 @@
 #include <string>
 #include <vector>
 
-#include "engine/OpMode.h"
 #include "platform/ports/Bundles.h"
 #include "platform/ports/SystemPlaces.h"
+#include "wizard/ComponentOutcome.h"
 
 namespace ec {
-
-/// What became of one component in a run: the summary tells it.
-struct ComponentOutcome {
-    std::string title;
-    OpMode mode = OpMode::copy;
-    bool succeeded = false;
-};
 
 struct WizardSession {
     WizardSession(const ports::Bundles& bundles, ports::SystemPlaces systemPlaces)

@@ -1,12 +1,11 @@
 #include "wizard/WizardStartUp.h"
 
-#include <array>
 #include <filesystem>
-#include <fstream>
 
+#include "engine/AtomicFile.h"
+#include "engine/FileBytes.h"
 #include "engine/LogText.h"
 #include "engine/Product.h"
-#include "wizard/FileBytes.h"
 
 namespace ec {
 
@@ -23,29 +22,9 @@ constexpr std::uint32_t kCustomizerMode = 1;
 constexpr std::uint32_t kPatcherMode = 3;
 constexpr std::uint32_t kPenmarkMode = 4;
 
-constexpr std::string_view kStars = "******************************************************";
-constexpr std::string_view kFrame = "**                                                  **";
-constexpr std::string_view kBuild = "**    Build number: 19023";
 constexpr std::string_view kCustomLine = "**  Custom Install from menu                        **";
 constexpr std::string_view kPenmarkLine = "**  Install Scrivel Penmark                         **";
 constexpr std::string_view kPatchLine = "**  Patcher Started                                 **";
-
-/// Writes `text` to `path` so that the file is there whole or not at all.
-void writeAtomically(const fs::path& path, const std::string& text) {
-    fs::path temporary = path;
-    temporary += ".new";
-    std::error_code failure;
-    {
-        std::ofstream file(temporary, std::ios::binary);
-        file << text;
-        if (!file.flush())
-            failure = std::make_error_code(std::errc::io_error);
-    }
-    if (!failure)
-        fs::rename(temporary, path, failure);
-    if (failure)
-        fs::remove(temporary, failure);
-}
 
 } // namespace
 
@@ -126,10 +105,7 @@ void WizardStartUp::readAboutFile() {
 }
 
 void WizardStartUp::start(std::string_view modeLine, std::uint32_t mode) {
-    const std::array lines{kStars, kStars, kFrame, modeLine, kFrame,
-                           kFrame, kBuild, kFrame, kStars,   kStars};
-    for (const std::string_view line : lines)
-        m_needs.log.logMessage(line);
+    m_needs.log.logBanner(modeLine);
     m_needs.outlets.uninstallBtn.setHidden(mode != kCustomizerMode); // others have nowhere to go
     m_needs.steps.startState(mode);
 }
@@ -150,7 +126,7 @@ bool WizardStartUp::isOnDiskImage() const {
     if (!m_needs.session.m_execPath.starts_with(m_needs.session.places.system("/Volumes/Scrivel")))
         return false;
     const fs::path probe = fs::path(m_needs.session.m_appResourceDir) / ".testro";
-    writeAtomically(probe, probe.string());
+    (void)writeAtomically(probe.string(), probe.string());
     std::error_code ignored;
     if (!fs::exists(probe, ignored))
         return true;

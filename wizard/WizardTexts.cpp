@@ -3,8 +3,8 @@
 #include <algorithm>
 #include <array>
 
+#include "engine/FileBytes.h"
 #include "engine/LogText.h"
-#include "wizard/FileBytes.h"
 #include "wizard/InstallLog.h"
 
 namespace ec {
@@ -47,13 +47,25 @@ constexpr std::array kProgresses{
     PageProgress{10, &WizardOutlets::progress},
 };
 
-/// What the summary says of one component; by what was done and whether it went well.
+/// What the summary says of one component.
 ports::TextKey sentenceFor(const ComponentOutcome& outcome) {
-    if (outcome.mode == OpMode::remove)
-        return outcome.succeeded ? ports::TextKey("%@ was removed.")
-                                 : ports::TextKey("%@ could not be removed.");
-    return outcome.succeeded ? ports::TextKey("%@ was installed.")
-                             : ports::TextKey("%@ could not be installed.");
+    using Result = ComponentOutcome::Result;
+    switch (outcome.result) {
+    case Result::installed:
+        return "%@ was installed.";
+    case Result::removed:
+        return "%@ was removed.";
+    case Result::unchanged:
+        break;
+    case Result::refused:
+    case Result::failed:
+        return outcome.mode == OpMode::remove ? ports::TextKey("%@ could not be removed.")
+                                              : ports::TextKey("%@ could not be installed.");
+    }
+    if (!outcome.mode)
+        return "%@ was left as it is.";
+    return outcome.present ? ports::TextKey("%@ is installed, as before.")
+                           : ports::TextKey("%@ is not installed, as before.");
 }
 
 } // namespace
@@ -114,12 +126,14 @@ controls::StyledText WizardTexts::summary() const {
     if (m_needs.session.outcomes.empty())
         return controls::StyledText::plain(m_needs.texts.lookUp("Nothing was changed."));
     controls::StyledText text;
-    for (const ComponentOutcome& outcome : m_needs.session.outcomes)
-        text.runs.push_back({formatted(m_needs.texts.lookUp(sentenceFor(outcome)),
-                                       {m_needs.texts.translated(outcome.title)}) +
-                                 "\n",
-                             {},
-                             !outcome.succeeded});
+    for (const ComponentOutcome& outcome : m_needs.session.outcomes) {
+        std::string line = formatted(m_needs.texts.lookUp(sentenceFor(outcome)),
+                                     {m_needs.texts.translated(outcome.name)});
+        if (outcome.reason)
+            line += " " +
+                    formatted(m_needs.texts.lookUp(outcome.reason->text), {outcome.reason->about});
+        text.runs.push_back({line + "\n", {}, !outcome.succeeded()});
+    }
     text.paragraphSpacing = 4;
     return text;
 }

@@ -32,6 +32,7 @@ ecController::ecController(const ports::Host& host, ecRules& rules, ecItem& root
                      .administrator = host.administrator,
                      .streams = host.streams}),
       FileOperations({.log = *this, .runner = *this, .finderFiles = host.finderFiles}),
+      FolderComparison({.files = *this}),
       Breadcrumbs({.log = *this, .session = *this, .lists = host.propertyLists}),
       AppDiscovery({.log = *this,
                     .session = *this,
@@ -40,8 +41,29 @@ ecController::ecController(const ports::Host& host, ecRules& rules, ecItem& root
                     .bundles = host.bundles,
                     .finderFiles = host.finderFiles}),
       WordStartupFolders({.log = *this, .bundles = host.bundles}),
-      SpotlightServices({.rules = rules, .outlets = *this, .steps = *this}),
-      InstallDriver({.log = *this, .session = *this, .steps = *this}),
+      FileModes({.log = *this, .rules = rules}), CategoryModes({.log = *this,
+                                                                .files = *this,
+                                                                .folders = *this,
+                                                                .bundles = host.bundles,
+                                                                .rules = rules}),
+      SpotlightServices({.log = *this,
+                         .session = *this,
+                         .rules = rules,
+                         .outlets = *this,
+                         .steps = *this,
+                         .runner = *this,
+                         .files = *this,
+                         .bundles = host.bundles}),
+      BrowserExtension({.log = *this, .session = *this, .runner = *this}),
+      ComponentAudit(
+          {.rules = rules, .session = *this, .runner = *this, .parts = componentParts()}),
+      InstallDriver({.log = *this,
+                     .session = *this,
+                     .steps = *this,
+                     .rules = rules,
+                     .bundles = host.bundles,
+                     .audit = *this,
+                     .operations = installOperations()}),
       ComponentOutline({.root = root, .ecOutlineView = WizardOutlets::ecOutlineView}),
       AlternateLocations({.log = *this}), Patcher({.log = *this, .outlets = *this, .steps = *this}),
       WizardTexts({.session = *this,
@@ -75,6 +97,37 @@ ecController::ecController(const ports::Host& host, ecRules& rules, ecItem& root
                      .systemLog = host.systemLog,
                      .localizedTexts = host.texts}),
       m_systemLog(host.systemLog) {}
+
+template <auto method>
+InstallOperation ecController::operation() {
+    return [this](OpMode mode, std::uint32_t item, OptionalText source, OptionalText dest) {
+        return (this->*method)(mode, item, source, dest);
+    };
+}
+
+InstallOperations ecController::installOperations() {
+    using C = ecController;
+    return {.word = [](OpMode, std::uint32_t, OptionalText,
+                       OptionalText) { return MethodAnswer::of(-1); },
+            .file = operation<&C::installFileMode>(),
+            .folder = operation<&C::installDirMode>(),
+            .services = operation<&C::installServicesMode>(),
+            .spotlight = operation<&C::installSpotlightMode>(),
+            .tessaron = operation<&C::installTessaronMode>(),
+            .uninstaller = operation<&C::installUninstMode>(),
+            .category = operation<&C::installCategoryMode>(),
+            .allCategories = operation<&C::installAllCategoriesMode>()};
+}
+
+std::map<std::string, ComponentAudit::PartsOf, std::less<>> ecController::componentParts() {
+    const auto named = [](const InstallMethod& method) { return std::string(method.name); };
+    return {{named(method::kServices), [this](std::uint32_t) { return servicesParts(); }},
+            {named(method::kSpotlight), [this](std::uint32_t) { return spotlightParts(); }},
+            {named(method::kTessaron), [this](std::uint32_t) { return extensionParts(); }},
+            {named(method::kCategory), [this](std::uint32_t item) { return categoryParts(item); }},
+            {named(method::kAllCategories),
+             [this](std::uint32_t item) { return allCategoriesParts(item); }}};
+}
 
 ActionResult ecController::runSelector(std::string_view name) {
     if (name.empty())

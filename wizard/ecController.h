@@ -8,8 +8,13 @@
 // but for what a facet says otherwise.
 #pragma once
 
+#include "engine/BrowserExtension.h"
+#include "engine/CategoryModes.h"
 #include "engine/CommandRunner.h"
+#include "engine/ComponentAudit.h"
+#include "engine/FileModes.h"
 #include "engine/FileOperations.h"
+#include "engine/FolderComparison.h"
 #include "engine/InstallDriver.h"
 #include "engine/SpotlightServices.h"
 #include "patcher/Patcher.h"
@@ -39,10 +44,15 @@ class ecController final : public ActionPerformer,
                            public WizardSteps,
                            public CommandRunner,
                            public FileOperations,
+                           public FolderComparison,
                            public Breadcrumbs,
                            public AppDiscovery,
                            public WordStartupFolders,
+                           public FileModes,
+                           public CategoryModes,
                            public SpotlightServices,
+                           public BrowserExtension,
+                           public ComponentAudit,
                            public InstallDriver,
                            public ComponentOutline,
                            public AlternateLocations,
@@ -59,6 +69,11 @@ class ecController final : public ActionPerformer,
     static bool hasAction(std::string_view name);
 
   private:
+    template <auto method>
+    InstallOperation operation();
+    InstallOperations installOperations();
+    std::map<std::string, PartsOf, std::less<>> componentParts();
+
     ports::SystemLog& m_systemLog;
 };
 

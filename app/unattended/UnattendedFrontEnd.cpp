@@ -5,7 +5,7 @@
 
 #include "app/CancelWindow.h"
 #include "app/generated/InterfaceDefaults.h"
-#include "wizard/FileBytes.h"
+#include "engine/FileBytes.h"
 
 namespace app {
 

@@ -179,5 +179,38 @@
 <message><source>Choose</source><translation>اختيار</translation></message>
 <message><source>Processing: %@</source><translation>جارٍ معالجة: %@</translation></message>
 <message><source>Searching for Microsoft Word</source><translation>البحث عن Microsoft Word</translation></message>
+<message><source>%@ was left as it is.</source><translation>تُرك «%@» كما هو.</translation></message>
+<message><source>%@ is installed, as before.</source><translation>«%@» مثبَّت كما كان.</translation></message>
+<message><source>%@ is not installed, as before.</source><translation>«%@» غير مثبَّت كما كان.</translation></message>
+<message><source>Administrator rights were refused.</source><translation>رُفضت صلاحيات المسؤول.</translation></message>
+<message><source>“%@” is missing from this copy of the installer.</source><translation>«%@» غير موجود في نسخة برنامج التثبيت هذه.</translation></message>
+<message><source>“%@” could not be written.</source><translation>تعذّرت كتابة «%@».</translation></message>
+<message><source>“%@” is still there.</source><translation>«%@» ما زال موجودًا.</translation></message>
+<message><source>It was not chosen who can use it.</source><translation>لم يُحدَّد من يمكنه استخدامه.</translation></message>
+<message><source>No copy of Microsoft Word was found.</source><translation>لم يُعثر على أي نسخة من Microsoft Word.</translation></message>
+<message><source>No copy of Microsoft Word 2016 or 2019 was found.</source><translation>لم يُعثر على أي نسخة من Microsoft Word 2016 أو 2019.</translation></message>
+<message><source>Output styles</source><translation>أنماط الإخراج</translation></message>
+<message><source>Citation styles of journals and publishers, by subject</source><translation>أنماط الاقتباس للمجلات ودور النشر بحسب الموضوع</translation></message>
+<message><source>Engineering</source><translation>الهندسة</translation></message>
+<message><source>Citation styles for engineering</source><translation>أنماط الاقتباس للهندسة</translation></message>
+<message><source>Humanities</source><translation>العلوم الإنسانية</translation></message>
+<message><source>Citation styles for the humanities</source><translation>أنماط الاقتباس للعلوم الإنسانية</translation></message>
+<message><source>Sciences</source><translation>العلوم</translation></message>
+<message><source>Citation styles for the sciences</source><translation>أنماط الاقتباس للعلوم الطبيعية</translation></message>
+<message><source>More on this disk</source><translation>المزيد على هذا القرص</translation></message>
+<message><source>What else comes with Scrivel 21; the wizard leaves it as it is</source><translation>ما يأتي أيضًا مع Scrivel 21؛ لا يغيّره المساعد</translation></message>
+<message><source>Read Me.txt</source><translation>Read Me.txt</translation></message>
+<message><source>Notes on this version, beside the installer</source><translation>ملاحظات عن هذا الإصدار بجوار برنامج التثبيت</translation></message>
+<message><source>Examples</source><translation>أمثلة</translation></message>
+<message><source>A sample library; it is installed with Scrivel 21 itself</source><translation>مكتبة نموذجية؛ تُثبَّت مع Scrivel 21 نفسه</translation></message>
+<message><source>Uninstaller</source><translation>برنامج إلغاء التثبيت</translation></message>
+<message><source>Takes Scrivel 21 away again; the Uninstall button of this page removes the other components</source><translation>يزيل Scrivel 21؛ ويزيل زر إلغاء التثبيت في هذه الصفحة المكونات الأخرى</translation></message>
+<message><source>Handheld link</source><translation>الربط بالأجهزة المحمولة</translation></message>
+<message><source>Needs a later version of this installer</source><translation>يتطلب إصدارًا أحدث من برنامج التثبيت</translation></message>
+<message><source>Penmark</source><translation>Penmark</translation></message>
+<message><source>Spotlight Support</source><translation>دعم Spotlight</translation></message>
+<message><source>Scrivel Services</source><translation>خدمات Scrivel</translation></message>
+<message><source>Tessaron Extension</source><translation>ملحق Tessaron</translation></message>
+<message><source>Scrivel Content Files</source><translation>ملفات محتوى Scrivel</translation></message>
 </context>
 </TS>

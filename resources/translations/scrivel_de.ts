@@ -179,5 +179,38 @@
 <message><source>Choose</source><translation>Auswählen</translation></message>
 <message><source>Processing: %@</source><translation>Wird bearbeitet: %@</translation></message>
 <message><source>Searching for Microsoft Word</source><translation>Microsoft Word wird gesucht</translation></message>
+<message><source>%@ was left as it is.</source><translation>%@: nicht verändert.</translation></message>
+<message><source>%@ is installed, as before.</source><translation>%@ ist wie zuvor installiert.</translation></message>
+<message><source>%@ is not installed, as before.</source><translation>%@ ist wie zuvor nicht installiert.</translation></message>
+<message><source>Administrator rights were refused.</source><translation>Administratorrechte wurden verweigert.</translation></message>
+<message><source>“%@” is missing from this copy of the installer.</source><translation>„%@“ fehlt in dieser Kopie des Installationsprogramms.</translation></message>
+<message><source>“%@” could not be written.</source><translation>„%@“ konnte nicht geschrieben werden.</translation></message>
+<message><source>“%@” is still there.</source><translation>„%@“ ist noch vorhanden.</translation></message>
+<message><source>It was not chosen who can use it.</source><translation>Es wurde nicht gewählt, wer es benutzen kann.</translation></message>
+<message><source>No copy of Microsoft Word was found.</source><translation>Microsoft Word wurde nicht gefunden.</translation></message>
+<message><source>No copy of Microsoft Word 2016 or 2019 was found.</source><translation>Microsoft Word 2016 oder 2019 wurde nicht gefunden.</translation></message>
+<message><source>Output styles</source><translation>Ausgabestile</translation></message>
+<message><source>Citation styles of journals and publishers, by subject</source><translation>Zitierstile von Zeitschriften und Verlagen, nach Fachgebiet</translation></message>
+<message><source>Engineering</source><translation>Ingenieurwesen</translation></message>
+<message><source>Citation styles for engineering</source><translation>Zitierstile für das Ingenieurwesen</translation></message>
+<message><source>Humanities</source><translation>Geisteswissenschaften</translation></message>
+<message><source>Citation styles for the humanities</source><translation>Zitierstile für die Geisteswissenschaften</translation></message>
+<message><source>Sciences</source><translation>Naturwissenschaften</translation></message>
+<message><source>Citation styles for the sciences</source><translation>Zitierstile für die Naturwissenschaften</translation></message>
+<message><source>More on this disk</source><translation>Weiteres auf diesem Volume</translation></message>
+<message><source>What else comes with Scrivel 21; the wizard leaves it as it is</source><translation>Was sonst zu Scrivel 21 gehört; der Assistent verändert es nicht</translation></message>
+<message><source>Read Me.txt</source><translation>Read Me.txt</translation></message>
+<message><source>Notes on this version, beside the installer</source><translation>Hinweise zu dieser Version, neben dem Installationsprogramm</translation></message>
+<message><source>Examples</source><translation>Beispiele</translation></message>
+<message><source>A sample library; it is installed with Scrivel 21 itself</source><translation>Eine Beispielbibliothek; sie wird mit Scrivel 21 selbst installiert</translation></message>
+<message><source>Uninstaller</source><translation>Deinstallationsprogramm</translation></message>
+<message><source>Takes Scrivel 21 away again; the Uninstall button of this page removes the other components</source><translation>Entfernt Scrivel 21 wieder; die Taste „Deinstallieren“ dieser Seite entfernt die anderen Komponenten</translation></message>
+<message><source>Handheld link</source><translation>Verbindung mit Mobilgeräten</translation></message>
+<message><source>Needs a later version of this installer</source><translation>Benötigt eine neuere Version des Installationsprogramms</translation></message>
+<message><source>Penmark</source><translation>Penmark</translation></message>
+<message><source>Spotlight Support</source><translation>Spotlight-Unterstützung</translation></message>
+<message><source>Scrivel Services</source><translation>Scrivel-Dienste</translation></message>
+<message><source>Tessaron Extension</source><translation>Tessaron-Erweiterung</translation></message>
+<message><source>Scrivel Content Files</source><translation>Scrivel-Inhalte</translation></message>
 </context>
 </TS>

@@ -179,5 +179,38 @@
 <message><source>Choose</source><translation>Choose</translation></message>
 <message><source>Processing: %@</source><translation>Processing: %@</translation></message>
 <message><source>Searching for Microsoft Word</source><translation>Searching for Microsoft Word</translation></message>
+<message><source>%@ was left as it is.</source><translation>%@ was left as it is.</translation></message>
+<message><source>%@ is installed, as before.</source><translation>%@ is installed, as before.</translation></message>
+<message><source>%@ is not installed, as before.</source><translation>%@ is not installed, as before.</translation></message>
+<message><source>Administrator rights were refused.</source><translation>Administrator rights were refused.</translation></message>
+<message><source>“%@” is missing from this copy of the installer.</source><translation>“%@” is missing from this copy of the installer.</translation></message>
+<message><source>“%@” could not be written.</source><translation>“%@” could not be written.</translation></message>
+<message><source>“%@” is still there.</source><translation>“%@” is still there.</translation></message>
+<message><source>It was not chosen who can use it.</source><translation>It was not chosen who can use it.</translation></message>
+<message><source>No copy of Microsoft Word was found.</source><translation>No copy of Microsoft Word was found.</translation></message>
+<message><source>No copy of Microsoft Word 2016 or 2019 was found.</source><translation>No copy of Microsoft Word 2016 or 2019 was found.</translation></message>
+<message><source>Output styles</source><translation>Output styles</translation></message>
+<message><source>Citation styles of journals and publishers, by subject</source><translation>Citation styles of journals and publishers, by subject</translation></message>
+<message><source>Engineering</source><translation>Engineering</translation></message>
+<message><source>Citation styles for engineering</source><translation>Citation styles for engineering</translation></message>
+<message><source>Humanities</source><translation>Humanities</translation></message>
+<message><source>Citation styles for the humanities</source><translation>Citation styles for the humanities</translation></message>
+<message><source>Sciences</source><translation>Sciences</translation></message>
+<message><source>Citation styles for the sciences</source><translation>Citation styles for the sciences</translation></message>
+<message><source>More on this disk</source><translation>More on this disk</translation></message>
+<message><source>What else comes with Scrivel 21; the wizard leaves it as it is</source><translation>What else comes with Scrivel 21; the wizard leaves it as it is</translation></message>
+<message><source>Read Me.txt</source><translation>Read Me.txt</translation></message>
+<message><source>Notes on this version, beside the installer</source><translation>Notes on this version, beside the installer</translation></message>
+<message><source>Examples</source><translation>Examples</translation></message>
+<message><source>A sample library; it is installed with Scrivel 21 itself</source><translation>A sample library; it is installed with Scrivel 21 itself</translation></message>
+<message><source>Uninstaller</source><translation>Uninstaller</translation></message>
+<message><source>Takes Scrivel 21 away again; the Uninstall button of this page removes the other components</source><translation>Takes Scrivel 21 away again; the Uninstall button of this page removes the other components</translation></message>
+<message><source>Handheld link</source><translation>Handheld link</translation></message>
+<message><source>Needs a later version of this installer</source><translation>Needs a later version of this installer</translation></message>
+<message><source>Penmark</source><translation>Penmark</translation></message>
+<message><source>Spotlight Support</source><translation>Spotlight Support</translation></message>
+<message><source>Scrivel Services</source><translation>Scrivel Services</translation></message>
+<message><source>Tessaron Extension</source><translation>Tessaron Extension</translation></message>
+<message><source>Scrivel Content Files</source><translation>Scrivel Content Files</translation></message>
 </context>
 </TS>

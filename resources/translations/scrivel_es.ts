@@ -179,5 +179,38 @@
 <message><source>Choose</source><translation>Elegir</translation></message>
 <message><source>Processing: %@</source><translation>Procesando: %@</translation></message>
 <message><source>Searching for Microsoft Word</source><translation>Búsqueda de Microsoft Word</translation></message>
+<message><source>%@ was left as it is.</source><translation>%@: se ha dejado como estaba.</translation></message>
+<message><source>%@ is installed, as before.</source><translation>%@: sigue instalado, como antes.</translation></message>
+<message><source>%@ is not installed, as before.</source><translation>%@: sigue sin instalarse, como antes.</translation></message>
+<message><source>Administrator rights were refused.</source><translation>Se denegaron los derechos de administrador.</translation></message>
+<message><source>“%@” is missing from this copy of the installer.</source><translation>Falta «%@» en esta copia del instalador.</translation></message>
+<message><source>“%@” could not be written.</source><translation>No se pudo escribir «%@».</translation></message>
+<message><source>“%@” is still there.</source><translation>«%@» sigue ahí.</translation></message>
+<message><source>It was not chosen who can use it.</source><translation>No se eligió quién puede usarlo.</translation></message>
+<message><source>No copy of Microsoft Word was found.</source><translation>No se encontró ninguna copia de Microsoft Word.</translation></message>
+<message><source>No copy of Microsoft Word 2016 or 2019 was found.</source><translation>No se encontró ninguna copia de Microsoft Word 2016 o 2019.</translation></message>
+<message><source>Output styles</source><translation>Estilos de salida</translation></message>
+<message><source>Citation styles of journals and publishers, by subject</source><translation>Estilos de cita de revistas y editoriales, por materia</translation></message>
+<message><source>Engineering</source><translation>Ingeniería</translation></message>
+<message><source>Citation styles for engineering</source><translation>Estilos de cita para ingeniería</translation></message>
+<message><source>Humanities</source><translation>Humanidades</translation></message>
+<message><source>Citation styles for the humanities</source><translation>Estilos de cita para humanidades</translation></message>
+<message><source>Sciences</source><translation>Ciencias</translation></message>
+<message><source>Citation styles for the sciences</source><translation>Estilos de cita para ciencias</translation></message>
+<message><source>More on this disk</source><translation>Más en este disco</translation></message>
+<message><source>What else comes with Scrivel 21; the wizard leaves it as it is</source><translation>Qué más acompaña a Scrivel 21; el asistente no lo modifica</translation></message>
+<message><source>Read Me.txt</source><translation>Read Me.txt</translation></message>
+<message><source>Notes on this version, beside the installer</source><translation>Notas sobre esta versión, junto al instalador</translation></message>
+<message><source>Examples</source><translation>Ejemplos</translation></message>
+<message><source>A sample library; it is installed with Scrivel 21 itself</source><translation>Una biblioteca de ejemplo; se instala con Scrivel 21</translation></message>
+<message><source>Uninstaller</source><translation>Desinstalador</translation></message>
+<message><source>Takes Scrivel 21 away again; the Uninstall button of this page removes the other components</source><translation>Elimina Scrivel 21; el botón Desinstalar de esta página quita los demás componentes</translation></message>
+<message><source>Handheld link</source><translation>Enlace con dispositivos móviles</translation></message>
+<message><source>Needs a later version of this installer</source><translation>Necesita una versión posterior del instalador</translation></message>
+<message><source>Penmark</source><translation>Penmark</translation></message>
+<message><source>Spotlight Support</source><translation>Compatibilidad con Spotlight</translation></message>
+<message><source>Scrivel Services</source><translation>Servicios de Scrivel</translation></message>
+<message><source>Tessaron Extension</source><translation>Extensión Tessaron</translation></message>
+<message><source>Scrivel Content Files</source><translation>Archivos de contenido de Scrivel</translation></message>
 </context>
 </TS>

@@ -179,5 +179,38 @@
 <message><source>Choose</source><translation>Choisir</translation></message>
 <message><source>Processing: %@</source><translation>Traitement : %@</translation></message>
 <message><source>Searching for Microsoft Word</source><translation>Recherche de Microsoft Word</translation></message>
+<message><source>%@ was left as it is.</source><translation>%@ : laissé tel quel.</translation></message>
+<message><source>%@ is installed, as before.</source><translation>%@ : toujours installé.</translation></message>
+<message><source>%@ is not installed, as before.</source><translation>%@ : toujours non installé.</translation></message>
+<message><source>Administrator rights were refused.</source><translation>Les droits d’administrateur ont été refusés.</translation></message>
+<message><source>“%@” is missing from this copy of the installer.</source><translation>« %@ » manque dans cette copie du programme d’installation.</translation></message>
+<message><source>“%@” could not be written.</source><translation>Impossible d’écrire « %@ ».</translation></message>
+<message><source>“%@” is still there.</source><translation>« %@ » est toujours là.</translation></message>
+<message><source>It was not chosen who can use it.</source><translation>Il n’a pas été choisi qui peut l’utiliser.</translation></message>
+<message><source>No copy of Microsoft Word was found.</source><translation>Aucune copie de Microsoft Word n’a été trouvée.</translation></message>
+<message><source>No copy of Microsoft Word 2016 or 2019 was found.</source><translation>Aucune copie de Microsoft Word 2016 ou 2019 n’a été trouvée.</translation></message>
+<message><source>Output styles</source><translation>Styles de sortie</translation></message>
+<message><source>Citation styles of journals and publishers, by subject</source><translation>Styles de citation des revues et des éditeurs, par sujet</translation></message>
+<message><source>Engineering</source><translation>Ingénierie</translation></message>
+<message><source>Citation styles for engineering</source><translation>Styles de citation pour l’ingénierie</translation></message>
+<message><source>Humanities</source><translation>Sciences humaines</translation></message>
+<message><source>Citation styles for the humanities</source><translation>Styles de citation pour les sciences humaines</translation></message>
+<message><source>Sciences</source><translation>Sciences</translation></message>
+<message><source>Citation styles for the sciences</source><translation>Styles de citation pour les sciences</translation></message>
+<message><source>More on this disk</source><translation>Autres éléments de ce disque</translation></message>
+<message><source>What else comes with Scrivel 21; the wizard leaves it as it is</source><translation>Ce qui accompagne aussi Scrivel 21 ; l’assistant n’y touche pas</translation></message>
+<message><source>Read Me.txt</source><translation>Read Me.txt</translation></message>
+<message><source>Notes on this version, beside the installer</source><translation>Notes sur cette version, à côté du programme d’installation</translation></message>
+<message><source>Examples</source><translation>Exemples</translation></message>
+<message><source>A sample library; it is installed with Scrivel 21 itself</source><translation>Une bibliothèque d’exemple ; elle est installée avec Scrivel 21</translation></message>
+<message><source>Uninstaller</source><translation>Programme de désinstallation</translation></message>
+<message><source>Takes Scrivel 21 away again; the Uninstall button of this page removes the other components</source><translation>Supprime Scrivel 21 ; le bouton Désinstaller de cette page supprime les autres composants</translation></message>
+<message><source>Handheld link</source><translation>Liaison avec appareils mobiles</translation></message>
+<message><source>Needs a later version of this installer</source><translation>Nécessite une version plus récente du programme d’installation</translation></message>
+<message><source>Penmark</source><translation>Penmark</translation></message>
+<message><source>Spotlight Support</source><translation>Prise en charge de Spotlight</translation></message>
+<message><source>Scrivel Services</source><translation>Services de Scrivel</translation></message>
+<message><source>Tessaron Extension</source><translation>Extension Tessaron</translation></message>
+<message><source>Scrivel Content Files</source><translation>Fichiers de contenu de Scrivel</translation></message>
 </context>
 </TS>

@@ -179,5 +179,38 @@
 <message><source>Choose</source><translation>選択</translation></message>
 <message><source>Processing: %@</source><translation>処理中：%@</translation></message>
 <message><source>Searching for Microsoft Word</source><translation>Microsoft Word の検索</translation></message>
+<message><source>%@ was left as it is.</source><translation>「%@」はそのままです。</translation></message>
+<message><source>%@ is installed, as before.</source><translation>「%@」は以前のままインストールされています。</translation></message>
+<message><source>%@ is not installed, as before.</source><translation>「%@」は以前と同じくインストールされていません。</translation></message>
+<message><source>Administrator rights were refused.</source><translation>管理者の権限が得られませんでした。</translation></message>
+<message><source>“%@” is missing from this copy of the installer.</source><translation>このインストーラには「%@」がありません。</translation></message>
+<message><source>“%@” could not be written.</source><translation>「%@」に書き込めませんでした。</translation></message>
+<message><source>“%@” is still there.</source><translation>「%@」がまだ残っています。</translation></message>
+<message><source>It was not chosen who can use it.</source><translation>使用できるユーザが選択されていません。</translation></message>
+<message><source>No copy of Microsoft Word was found.</source><translation>Microsoft Word が見つかりませんでした。</translation></message>
+<message><source>No copy of Microsoft Word 2016 or 2019 was found.</source><translation>Microsoft Word 2016 または 2019 が見つかりませんでした。</translation></message>
+<message><source>Output styles</source><translation>出力スタイル</translation></message>
+<message><source>Citation styles of journals and publishers, by subject</source><translation>雑誌と出版社の引用スタイル（分野別）</translation></message>
+<message><source>Engineering</source><translation>工学</translation></message>
+<message><source>Citation styles for engineering</source><translation>工学の引用スタイル</translation></message>
+<message><source>Humanities</source><translation>人文科学</translation></message>
+<message><source>Citation styles for the humanities</source><translation>人文科学の引用スタイル</translation></message>
+<message><source>Sciences</source><translation>自然科学</translation></message>
+<message><source>Citation styles for the sciences</source><translation>自然科学の引用スタイル</translation></message>
+<message><source>More on this disk</source><translation>このディスクのその他の項目</translation></message>
+<message><source>What else comes with Scrivel 21; the wizard leaves it as it is</source><translation>Scrivel 21 に付属するその他のもの。アシスタントは変更しません</translation></message>
+<message><source>Read Me.txt</source><translation>Read Me.txt</translation></message>
+<message><source>Notes on this version, beside the installer</source><translation>このバージョンについての注意（インストーラと同じ場所）</translation></message>
+<message><source>Examples</source><translation>例</translation></message>
+<message><source>A sample library; it is installed with Scrivel 21 itself</source><translation>サンプルライブラリ。Scrivel 21 と一緒にインストールされます</translation></message>
+<message><source>Uninstaller</source><translation>アンインストーラ</translation></message>
+<message><source>Takes Scrivel 21 away again; the Uninstall button of this page removes the other components</source><translation>Scrivel 21 を削除します。このページの「アンインストール」ボタンは他のコンポーネントを削除します</translation></message>
+<message><source>Handheld link</source><translation>携帯機器との連携</translation></message>
+<message><source>Needs a later version of this installer</source><translation>新しいバージョンのインストーラが必要です</translation></message>
+<message><source>Penmark</source><translation>Penmark</translation></message>
+<message><source>Spotlight Support</source><translation>Spotlight 対応</translation></message>
+<message><source>Scrivel Services</source><translation>Scrivel サービス</translation></message>
+<message><source>Tessaron Extension</source><translation>Tessaron 拡張機能</translation></message>
+<message><source>Scrivel Content Files</source><translation>Scrivel コンテンツファイル</translation></message>
 </context>
 </TS>

@@ -179,5 +179,38 @@
 <message><source>Choose</source><translation>选取</translation></message>
 <message><source>Processing: %@</source><translation>正在处理：%@</translation></message>
 <message><source>Searching for Microsoft Word</source><translation>查找 Microsoft Word</translation></message>
+<message><source>%@ was left as it is.</source><translation>“%@”保持原样。</translation></message>
+<message><source>%@ is installed, as before.</source><translation>“%@”与之前一样，已安装。</translation></message>
+<message><source>%@ is not installed, as before.</source><translation>“%@”与之前一样，未安装。</translation></message>
+<message><source>Administrator rights were refused.</source><translation>未获得管理员权限。</translation></message>
+<message><source>“%@” is missing from this copy of the installer.</source><translation>此安装程序副本中缺少“%@”。</translation></message>
+<message><source>“%@” could not be written.</source><translation>无法写入“%@”。</translation></message>
+<message><source>“%@” is still there.</source><translation>“%@”仍然存在。</translation></message>
+<message><source>It was not chosen who can use it.</source><translation>未选择可使用它的用户。</translation></message>
+<message><source>No copy of Microsoft Word was found.</source><translation>未找到 Microsoft Word。</translation></message>
+<message><source>No copy of Microsoft Word 2016 or 2019 was found.</source><translation>未找到 Microsoft Word 2016 或 2019。</translation></message>
+<message><source>Output styles</source><translation>输出样式</translation></message>
+<message><source>Citation styles of journals and publishers, by subject</source><translation>期刊和出版社的引文样式，按学科分类</translation></message>
+<message><source>Engineering</source><translation>工程</translation></message>
+<message><source>Citation styles for engineering</source><translation>工程学引文样式</translation></message>
+<message><source>Humanities</source><translation>人文学科</translation></message>
+<message><source>Citation styles for the humanities</source><translation>人文学科引文样式</translation></message>
+<message><source>Sciences</source><translation>自然科学</translation></message>
+<message><source>Citation styles for the sciences</source><translation>自然科学引文样式</translation></message>
+<message><source>More on this disk</source><translation>此磁盘上的其他内容</translation></message>
+<message><source>What else comes with Scrivel 21; the wizard leaves it as it is</source><translation>Scrivel 21 附带的其他内容；向导不会更改它们</translation></message>
+<message><source>Read Me.txt</source><translation>Read Me.txt</translation></message>
+<message><source>Notes on this version, beside the installer</source><translation>关于此版本的说明，位于安装程序旁</translation></message>
+<message><source>Examples</source><translation>示例</translation></message>
+<message><source>A sample library; it is installed with Scrivel 21 itself</source><translation>示例文献库；随 Scrivel 21 一起安装</translation></message>
+<message><source>Uninstaller</source><translation>卸载程序</translation></message>
+<message><source>Takes Scrivel 21 away again; the Uninstall button of this page removes the other components</source><translation>移除 Scrivel 21；此页面的“卸载”按钮会移除其他组件</translation></message>
+<message><source>Handheld link</source><translation>手持设备连接</translation></message>
+<message><source>Needs a later version of this installer</source><translation>需要更新版本的安装程序</translation></message>
+<message><source>Penmark</source><translation>Penmark</translation></message>
+<message><source>Spotlight Support</source><translation>Spotlight 支持</translation></message>
+<message><source>Scrivel Services</source><translation>Scrivel 服务</translation></message>
+<message><source>Tessaron Extension</source><translation>Tessaron 扩展</translation></message>
+<message><source>Scrivel Content Files</source><translation>Scrivel 内容文件</translation></message>
 </context>
 </TS>

@@ -1,4 +1,4 @@
-// The real program in a little system of its own: a copy of the built bundle, a root folder, a
+// The real program in a little system of its own: a copy of the built disk image, a root folder, a
 // home, a temporary folder; all gone when the test is over. Runs it unattended and reads back what
 // it said and what it left.
 #pragma once
@@ -73,8 +73,11 @@ class InstallerRun : public testing::Test {
         fs::create_directories(root / "Applications");
         fs::create_directories(home / "Library/Logs");
         fs::create_directories(temporary);
-        fs::copy(fs::path(SCRIVEL_BUILD) / "Scrivel 21 Installer.app", bundle,
-                 fs::copy_options::recursive | fs::copy_options::copy_symlinks);
+        const auto options = fs::copy_options::recursive | fs::copy_options::copy_symlinks;
+        const fs::path build(SCRIVEL_BUILD);
+        fs::copy(build / "Scrivel 21 Installer.app", bundle, options);
+        for (const char* item : {"Penmark", "Services", "Product-Support", "Read Me.txt"})
+            fs::copy(build / item, folder / item, options);
     }
     void TearDown() override {
         EXPECT_TRUE(fs::is_empty(temporary)) << "the temporary folder was not put away";

@@ -236,6 +236,14 @@ TEST_F(Unattended, AnInterfaceFileMustBeThereWithAllItsOutlets) {
 // --- outcomes
 
 struct Outcomes : Unattended {
+    using Result = ec::ComponentOutcome::Result;
+    /// A component that was to be removed.
+    static ec::ComponentOutcome removal(const char* name, Result result) {
+        return {.name = name,
+                .mode = ec::OpMode::remove,
+                .result = result,
+                .reason = ec::OutcomeReason{"“%@” is still there.", "/x"}};
+    }
     app::WizardEnding ending;
 
     ExitCode code() { return app::outcomeOfWizard(wizard, ending).code; }
@@ -251,21 +259,22 @@ TEST_F(Outcomes, AWizardThatIsNotFinishedWasCancelled) {
 
 TEST_F(Outcomes, WhatFailedIsNamedAndRefusedRightsAreTheReasonForIt) {
     wizard.finish();
-    wizard.outcomes = {{"One", ec::OpMode::copy, true}, {"Two", ec::OpMode::remove, false}};
+    wizard.outcomes = {{.name = "One", .mode = ec::OpMode::copy, .result = Result::installed},
+                       removal("Two", Result::failed)};
     EXPECT_EQ(code(), ExitCode::failed);
-    EXPECT_THAT(reason(), HasSubstr("Two failed"));
+    EXPECT_EQ(reason(), "Two: “/x” is still there. The log tells what the tools said.");
     EXPECT_EQ(app::outcomeOfWizard(wizard, ending).summary,
-              "One was installed.\nTwo could not be removed.");
-    ending.refused = true;
+              "One was installed.\nTwo could not be removed. “/x” is still there.");
+    wizard.outcomes.push_back(removal("Three", Result::refused));
     EXPECT_EQ(code(), ExitCode::refused);
-    wizard.outcomes[1].succeeded = true;
-    EXPECT_EQ(code(), ExitCode::done) << "they were not needed after all";
+    EXPECT_THAT(reason(), HasSubstr("Two: “/x” is still there. Three: "));
+    wizard.outcomes = {{.name = "Four", .mode = ec::OpMode::copy}};
+    EXPECT_EQ(code(), ExitCode::done) << "what is as it was is no failure";
 }
 
 TEST_F(Outcomes, WhereSeveralHoldTheFirstIsGiven) {
     wizard.finish();
-    wizard.outcomes = {{"Two", ec::OpMode::remove, false}};
-    ending.refused = true;
+    wizard.outcomes = {removal("Two", Result::refused)};
     ending.cancelled = "given up";
     EXPECT_EQ(code(), ExitCode::cancelled);
     EXPECT_EQ(reason(), "given up");

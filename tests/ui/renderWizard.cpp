@@ -227,10 +227,15 @@ void fillPages(Walk& walk) {
     walk.wizard.acTbl.reloadData();
     walk.wizard.patchFound.setText("/Applications/Scrivel 21/Scrivel 21.app");
     walk.wizard.processingText.setText("Processing: Penmark add-in");
-    const std::pair<const char*, bool> outcomes[] = {
-        {"Penmark add-in", true}, {"History", true}, {"Spotlight importer", false}};
-    for (const auto& [component, succeeded] : outcomes)
-        walk.wizard.outcomes.push_back({walk.host.texts.translated(component), {}, succeeded});
+    using Result = ec::ComponentOutcome::Result;
+    walk.wizard.outcomes = {
+        {.name = "Penmark add-in", .mode = ec::OpMode::copy, .result = Result::installed},
+        {.name = "History", .mode = ec::OpMode::remove, .result = Result::removed},
+        {.name = "Physics", .mode = ec::OpMode::copy, .present = true},
+        {.name = "Spotlight importer",
+         .mode = ec::OpMode::copy,
+         .result = Result::refused,
+         .reason = ec::OutcomeReason{"Administrator rights were refused."}}};
 }
 void work(Walk& walk) {
     walk.wizard.runSelector("disableButtons");

@@ -44,7 +44,29 @@ struct LevelPageTest : testing::Test {
                            .appearance = host.appearance,
                            .beeper = host.beeper,
                            .rowShown = {}}};
-    ec::SpotlightServices page{{.rules = components.rules, .outlets = outlets, .steps = steps}};
+    ec::InstallLog log{{.places = host.places,
+                        .clock = host.clock,
+                        .streams = host.streams,
+                        .texts = host.texts,
+                        .processingText = outlets.processingText,
+                        .written = {}}};
+    ec::CommandRunner runner{{.log = log,
+                              .session = session,
+                              .tools = host.tools,
+                              .administrator = host.administrator,
+                              .streams = host.streams}};
+    ec::FileOperations files{{.log = log, .runner = runner, .finderFiles = host.finderFiles}};
+    ec::SpotlightServices pageOver(const ec::ecRules& rules) {
+        return ec::SpotlightServices{{.log = log,
+                                      .session = session,
+                                      .rules = rules,
+                                      .outlets = outlets,
+                                      .steps = steps,
+                                      .runner = runner,
+                                      .files = files,
+                                      .bundles = host.bundles}};
+    }
+    ec::SpotlightServices page = pageOver(components.rules);
 
     static constexpr std::array<ec::StepRow, 4> kRows{{
         {.page = 6},
@@ -170,7 +192,7 @@ TEST_F(LevelPageTest, ComingAgainForgetsWhatWasNeededBefore) {
 
 TEST_F(LevelPageTest, WithoutRulesThePageIsPassedOver) {
     tests::Components none{""};
-    ec::SpotlightServices other{{.rules = none.rules, .outlets = outlets, .steps = steps}};
+    ec::SpotlightServices other = pageOver(none.rules);
     EXPECT_EQ(other.adjustServSpot(), 0);
     EXPECT_EQ(steps.state(), 2);
 }

@@ -138,7 +138,7 @@ TEST_F(WizardModesTest, TheCustomizerWritesItsBannerAndScansTwiceOnTheFirstCall)
     EXPECT_GE(bannerAt(kCustomLine), 0);
     EXPECT_EQ(controller.secretIdentity(), "Customizer_Customizer");
     EXPECT_FALSE(controller.helpBtn.isHidden());
-    EXPECT_EQ(timesLogged("installCheck: nothing to do"), 2);
+    EXPECT_EQ(timesLogged("State: Tessaron Extension Mode: mode_check"), 2);
 }
 
 TEST_F(WizardModesTest, EveryLineOfABannerIs54CharactersWideButTheBuildLine) {

@@ -128,6 +128,7 @@ class WizardStage : private controls::Control::Observer {
   private:
     ports::Host preparedHost() {
         host.bundles.resourceFolder = folder.path();
+        host.places.temporary = folder.path();
         host.watchers.rowShown = [this](const ports::RowShown& row) { rows.push_back(row); };
         host.watchers.answered = [this](const ports::QuestionAnswered& question) {
             questions.push_back(question);

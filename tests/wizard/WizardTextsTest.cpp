@@ -15,8 +15,13 @@ using testing::HasSubstr;
 using testing::IsEmpty;
 
 struct WizardTextsTest : testing::Test, tests::WizardStage {
-    void outcome(const char* title, ec::OpMode mode, bool succeeded) {
-        controller.outcomes.push_back({.title = title, .mode = mode, .succeeded = succeeded});
+    void outcome(const char* name, ec::OpMode mode, bool succeeded) {
+        using Result = ec::ComponentOutcome::Result;
+        controller.outcomes.push_back({.name = name,
+                                       .mode = mode,
+                                       .result = !succeeded                   ? Result::failed
+                                                 : mode == ec::OpMode::remove ? Result::removed
+                                                                              : Result::installed});
     }
 };
 

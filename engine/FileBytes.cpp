@@ -1,4 +1,4 @@
-#include "wizard/FileBytes.h"
+#include "engine/FileBytes.h"
 
 #include <filesystem>
 #include <fstream>

@@ -1,5 +1,5 @@
-// A whole file read at once: what the wizard shows (a picture, a text, the log), and the interface
-// files of a run without a window. Any thread.
+// A whole file read at once: what the wizard shows (a picture, a text, the log), the interface
+// files of a run without a window, a file that is compared with what it should hold. Any thread.
 #pragma once
 
 #include <string>

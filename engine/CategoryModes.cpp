@@ -1,0 +1,135 @@
+#include "engine/CategoryModes.h"
+
+#include <filesystem>
+
+#include "engine/FolderListing.h"
+#include "engine/Guarded.h"
+#include "platform/ports/PlatformError.h"
+
+namespace ec {
+
+namespace fs = std::filesystem;
+
+namespace {
+
+/// Beside the application. The two separators are the name as it always was.
+constexpr std::string_view kContentBundle = "Product-Support//Content.bundle";
+constexpr std::string_view kMostPopular = "Most Popular";
+
+constexpr int kMixed = -2;
+
+MethodAnswer truth(bool value) {
+    return MethodAnswer::of(value ? 1 : 0);
+}
+
+ComponentParts missing(const std::string& source) {
+    return {.obstacle = OutcomeReason{"“%@” is missing from this copy of the installer.", source}};
+}
+
+} // namespace
+
+CategoryModes::Places CategoryModes::placesOf(std::uint32_t itemNum) const {
+    const auto paths = m_needs.rules.getItemFiles(itemNum);
+    if (!paths || paths->empty())
+        throw ports::PlatformError("the rule names no category");
+    const std::string& path = paths->front();
+    const std::string folder = fs::path(m_needs.bundles.mainBundle()).parent_path().native();
+    const std::string content = inFolder(folder, std::string(kContentBundle));
+    return {.source = inFolder(content, path),
+            .destination = inFolder(folder, path),
+            .holder = inFolder(folder, fs::path(path).parent_path().native()),
+            .mostPopular = inFolder(inFolder(content, std::string(kMostPopular)), path)};
+}
+
+MethodAnswer CategoryModes::installCategoryMode(OpMode mode, std::uint32_t itemNum, OptionalText,
+                                                OptionalText) {
+    m_needs.log.logInstall("Scrivel Content Files", mode);
+    return guarded(m_needs.log, 0, [&] {
+        const Places places = placesOf(itemNum);
+        switch (mode) {
+        case OpMode::check:
+            return truth(m_needs.folders.itemsAtPath(places.source, places.holder));
+        case OpMode::copy:
+            return MethodAnswer::unchanged(m_needs.files.copyPath(places.source, places.holder));
+        case OpMode::remove:
+            return truth(m_needs.folders.removeItemsAtPath(places.source, places.holder));
+        default:
+            return truth(false);
+        }
+    });
+}
+
+MethodAnswer CategoryModes::installAllCategoriesMode(OpMode mode, std::uint32_t itemNum,
+                                                     OptionalText, OptionalText) {
+    return guarded(m_needs.log, 0, [&] {
+        const Places places = placesOf(itemNum);
+        switch (mode) {
+        case OpMode::check:
+            return checkAll(places);
+        case OpMode::copy:
+            return copyAll(places);
+        case OpMode::remove:
+            return removeAll(places);
+        default:
+            return truth(false);
+        }
+    });
+}
+
+MethodAnswer CategoryModes::checkAll(const Places& places) const {
+    const FolderComparison::Names there = FolderComparison::nameSet(places.destination);
+    bool somePresent = false;
+    bool someMissing = false;
+    for (const std::string& category : namesIn(places.source)) {
+        (m_needs.folders.itemsAtPath(inFolder(places.source, category), there) ? somePresent
+                                                                               : someMissing) =
+            true;
+        if (somePresent && someMissing)
+            return MethodAnswer::of(kMixed);
+    }
+    return truth(somePresent);
+}
+
+MethodAnswer CategoryModes::copyAll(const Places& places) {
+    const std::vector<std::string> categories = namesIn(places.source);
+    for (const std::string& category : categories)
+        if (!m_needs.files.copyPath(inFolder(places.source, category), places.destination)
+                 .succeeded())
+            return truth(false);
+    return truth(!categories.empty());
+}
+
+MethodAnswer CategoryModes::removeAll(const Places& places) {
+    if (!m_needs.files.removeFile(places.destination).succeeded())
+        return truth(false);
+    (void)m_needs.files.makeDir(places.destination);
+    return truth(m_needs.files.copyPath(places.mostPopular, places.destination).succeeded());
+}
+
+ComponentParts CategoryModes::categoryParts(std::uint32_t itemNum) const {
+    const Places places = placesOf(itemNum);
+    ComponentParts parts;
+    for (const std::string& name : namesIn(places.source)) {
+        parts.copies.push_back({inFolder(places.source, name), inFolder(places.holder, name)});
+        parts.traces.push_back(inFolder(places.holder, name));
+    }
+    return parts.copies.empty() ? missing(places.source) : parts;
+}
+
+ComponentParts CategoryModes::allCategoriesParts(std::uint32_t itemNum) const {
+    const Places places = placesOf(itemNum);
+    const FolderComparison::Names popular = FolderComparison::nameSet(places.mostPopular);
+    ComponentParts parts;
+    for (const std::string& category : namesIn(places.source)) {
+        const std::string source = inFolder(places.source, category);
+        for (const std::string& name : namesIn(source)) {
+            const std::string destination = inFolder(places.destination, name);
+            parts.copies.push_back({inFolder(source, name), destination});
+            if (!popular.contains(name))
+                parts.traces.push_back(destination);
+        }
+    }
+    return parts.copies.empty() ? missing(places.source) : parts;
+}
+
+} // namespace ec

@@ -1,0 +1,36 @@
+#!/bin/sh
+# Stops the running Services application of this user, so that its bundle can be replaced or
+# removed. The wizard runs it before it does either. Asks nobody. Ends with 0 when none runs any
+# more, also when none ran; with 1 when one does not end within five seconds.
+#
+# A process counts whose executable is SVService.app/Contents/MacOS/SVService, wherever that lies.
+set -u
+executable=SVService.app/Contents/MacOS/SVService
+user=$(id -u)
+
+running() {
+    if [ -d /proc/self ]; then
+        for process in /proc/[0-9]*; do
+            case $(readlink "$process/exe" 2>/dev/null) in
+            */"$executable" | */"$executable (deleted)")
+                [ "$(stat -c %u "$process" 2>/dev/null)" = "$user" ] && echo "${process#/proc/}" ;;
+            esac
+        done
+    else
+        /usr/bin/pgrep -U "$user" -f "/$executable\$" || :
+    fi
+}
+
+for signal in TERM TERM KILL; do
+    processes=$(running)
+    [ -n "$processes" ] || exit 0
+    # shellcheck disable=SC2086 # one word for each process
+    kill -s "$signal" $processes 2>/dev/null
+    waited=0
+    while [ "$waited" -lt 8 ]; do
+        [ -n "$(running)" ] || exit 0
+        sleep 0.2
+        waited=$((waited + 1))
+    done
+done
+exit 1
