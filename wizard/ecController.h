@@ -27,6 +27,7 @@
 #include "word/AlternateLocations.h"
 #include "word/AppDiscovery.h"
 #include "word/Breadcrumbs.h"
+#include "word/WordAddIn.h"
 #include "word/WordStartupFolders.h"
 
 namespace ec {
@@ -42,6 +43,7 @@ class ecController final : public ActionPerformer,
                            public Breadcrumbs,
                            public AppDiscovery,
                            public WordStartupFolders,
+                           public WordAddIn,
                            public SpotlightServices,
                            public InstallDriver,
                            public ComponentOutline,
