@@ -83,6 +83,9 @@ class AppDiscovery {
     /// none, and logs what a search found.
     const Paths& wordPaths();
 
+    /// Those that were found before; never searches.
+    const Paths& knownWordPaths() const { return m_wordPaths.paths(); }
+
     /// `checkWordExists`: is there any?
     bool checkWordExists() { return !wordPaths().empty(); }
 

@@ -23,7 +23,7 @@ struct WizardInTheWindow : WindowRun {
     WindowId askToUninstall() {
         open("customize");
         awaitPage(6);
-        pressAll(window(), {"Tab", "space"}); // from the tree to the button below it
+        pressAll(window(), {"Tab", "Tab", "space"}); // from the tree to the second button below it
         const WindowId asked = sheet();
         EXPECT_EQ(titleOf(asked), "Scrivel 21 Installer");
         return asked;

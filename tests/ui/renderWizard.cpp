@@ -173,6 +173,8 @@ Walk::Deed show(int page) {
     return [page](Walk& walk) {
         ec::ecController& wizard = walk.wizard;
         wizard.ecTabView.select(page);
+        wizard.backBtn.setHidden(page == ec::page::kLocations);
+        wizard.nextBtn.setHidden(page == ec::page::kLocations);
         std::string title;
         for (const ec::PageTitle& its : ec::gInstallStateLabels)
             if (its.page == page)
@@ -210,7 +212,7 @@ class Copies final : public controls::TableDataSource {
     int numberOfRowsInTableView() override { return 2; }
     std::string tableViewObjectValue(std::string_view column, int row) override {
         if (column == "wordversion")
-            return row == 0 ? "16.30" : "15.41";
+            return "2016";
         if (column == "startupPath")
             return row == 0 ? "/Library/Application Support/Microsoft/Office365/User "
                               "Content.localized/Startup.localized/Word"
