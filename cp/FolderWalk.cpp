@@ -99,8 +99,10 @@ class FolderWalk::Remembered::Walk {
     std::vector<std::string> find(const std::string& folder) {
         m_path = folder;
         FileDescriptor top(::open(folder.c_str(), O_RDONLY | O_DIRECTORY | O_CLOEXEC));
-        if (top.isOpen())
-            enter(std::move(top));
+        if (top.isOpen()) {
+            const Listing* known = recall(top.number(), ".");
+            enter(std::move(top), known);
+        }
         while (!m_levels.empty()) {
             Level& level = m_levels.back();
             if (level.next == level.folders.size()) {
@@ -132,28 +134,25 @@ class FolderWalk::Remembered::Walk {
         path += name;
     }
 
-    void visit(int parent, const char* name) {
-        const Listing* known = m_remembered ? m_remembered->recall(parent, name) : nullptr;
-        if (known && known->folders.empty()) {
-            collect(*known);
-            return;
-        }
-        FileDescriptor folder = Private::open_folder(parent, name);
-        if (!folder.isOpen())
-            return;
-        if (known) {
-            collect(*known);
-            descend(std::move(folder), known->folders);
-        } else {
-            enter(std::move(folder));
-        }
+    const Listing* recall(int parent, const char* name) {
+        return m_remembered ? m_remembered->recall(parent, name) : nullptr;
     }
 
-    void enter(FileDescriptor folder) {
-        read(folder.number());
-        collect(m_listing);
-        if (!m_listing.folders.empty())
-            descend(std::move(folder), std::move(m_listing.folders));
+    void visit(int parent, const char* name) {
+        const Listing* known = recall(parent, name);
+        if (known && known->folders.empty())
+            collect(*known);
+        else if (FileDescriptor folder = Private::open_folder(parent, name); folder.isOpen())
+            enter(std::move(folder), known);
+    }
+
+    void enter(FileDescriptor folder, const Listing* known) {
+        if (!known)
+            read(folder.number());
+        const Listing& listing = known ? *known : m_listing;
+        collect(listing);
+        if (!listing.folders.empty())
+            descend(std::move(folder), listing.folders);
     }
 
     void read(int folder) {
