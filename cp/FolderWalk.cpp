@@ -3,6 +3,7 @@
 #include <algorithm>
 #include <cstddef>
 #include <cstdint>
+#include <cstring>
 #include <unordered_map>
 #include <utility>
 
@@ -86,12 +87,10 @@ struct FolderWalk::Remembered {
     void forgetOthers() {
         std::erase_if(folders, [this](const auto& known) { return known.second.walk != walk; });
     }
-
-    /// One walk: keeps nothing but the way to where it is.
-    class Walk;
 };
 
-class FolderWalk::Remembered::Walk {
+/// One walk: keeps the way to where it is, and what it has found.
+class FolderWalk::Walk {
   public:
     Walk(const Wanted& wanted, Remembered* remembered)
         : m_wanted(wanted), m_remembered(remembered) {}
@@ -109,11 +108,11 @@ class FolderWalk::Remembered::Walk {
                 leave();
                 continue;
             }
-            const std::string_view name(level.folders.c_str() + level.next);
-            level.next += name.size() + 1;
+            const char* name = level.folders.c_str() + level.next;
+            level.next += std::strlen(name) + 1;
             m_path.resize(level.pathLength);
             addToPath(m_path, name);
-            visit(level.folder.number(), name.data());
+            visit(level.folder.number(), name);
         }
         std::ranges::sort(m_found, comesBefore);
         return std::move(m_found);
@@ -225,7 +224,7 @@ FolderWalk::~FolderWalk() = default;
 std::vector<std::string> FolderWalk::find(const std::string& folder) {
     if (m_remembered)
         ++m_remembered->walk;
-    auto found = Remembered::Walk(m_wanted, m_remembered.get()).find(folder);
+    auto found = Walk(m_wanted, m_remembered.get()).find(folder);
     if (m_remembered)
         m_remembered->forgetOthers();
     return found;

@@ -38,6 +38,7 @@ class FolderWalk {
 
   private:
     struct Remembered;
+    class Walk;
 
     Wanted m_wanted;
     std::unique_ptr<Remembered> m_remembered;

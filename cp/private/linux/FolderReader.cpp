@@ -1,7 +1,6 @@
 #include "cp/private/FolderReader.h"
 
 #include <array>
-#include <cerrno>
 #include <cstddef>
 #include <dirent.h>
 
@@ -16,7 +15,7 @@ struct FolderReader::State {
     std::size_t at = 0;
     std::size_t end = 0;
     bool complete = false;
-    alignas(dirent64) std::array<char, 64 * 1024> entries;
+    alignas(dirent64) std::array<char, 64 * 1024> entries{};
 };
 
 FolderReader::FolderReader() : m_state(std::make_unique<State>()) {}
