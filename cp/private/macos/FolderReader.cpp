@@ -10,7 +10,7 @@ namespace Corvaldine::CP::Private {
 
 struct FolderReader::State {
     struct Close {
-        void operator()(DIR* directory) const { ::closedir(directory); }
+        void operator()(DIR* stream) const { ::closedir(stream); }
     };
     int folder = -1;
     std::unique_ptr<DIR, Close> directory;
