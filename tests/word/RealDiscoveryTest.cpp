@@ -188,6 +188,17 @@ TEST_F(RealDiscovery, ACopyThatIsRememberedInOtherLettersAndKnownByALinkOccursOn
     EXPECT_THAT(discovery.wordPaths(), ElementsAre(spelled));
 }
 
+TEST_F(RealDiscovery, BarsInTheNameOfAFolderCutThePathAsIfItWereARecord) {
+    word("Applications/a|||b|||16/Word.app", "16.89.1");
+    EXPECT_THAT(discovery.wordPaths(), ElementsAre(folder.path("Applications/a")));
+}
+
+TEST_F(RealDiscovery, LineEndsBelongToAName) {
+    const std::string current = word("Applications/Office\n2019/Word\n.app", "16.89.1");
+    const std::string old = oldWord("Applications/\n/Microsoft Word", 0x11);
+    EXPECT_THAT(discovery.wordPaths(), ElementsAre(current, old));
+}
+
 TEST_F(RealDiscovery, ACopyThatIsInstalledWhileNoneIsKnownIsFoundAtTheNextLook) {
     EXPECT_FALSE(discovery.checkWordExists());
     const std::string current = word("Applications/Microsoft Word.app", "16.89.1");
