@@ -1,6 +1,6 @@
 // Tells whether a file or folder is still as it was when it was read, so that what was read may be
 // kept. Used by what remembers folders and files: the walk for applications and the registry of
-// bundles. Looks only.
+// bundles. Looks only. Files on another machine are as certain as its clock agrees with ours.
 #pragma once
 
 #include <cstdint>

@@ -3,16 +3,15 @@
 // FileStamp and FolderWalk.
 #pragma once
 
-#include <cstdint>
+#include <ctime>
 #include <sys/stat.h>
 
 #include "cp/FileStamp.h"
 
 namespace Corvaldine::CP::Private {
 
-/// In nanoseconds since 1970.
-[[nodiscard]] std::int64_t written_at(const struct stat& status);
-[[nodiscard]] std::int64_t changed_at(const struct stat& status);
+[[nodiscard]] const timespec& time_written(const struct stat& status);
+[[nodiscard]] const timespec& time_changed(const struct stat& status);
 
 /// The stamp of a file whose status was asked for just now, before anything is read of it.
 [[nodiscard]] FileStamp stamp_from(const struct stat& status);

@@ -299,7 +299,7 @@ TEST_F(RememberingWalks, AnyChangeAtAnyTimeIsSeenAtOnce) {
     std::mt19937 random(20211);
     const auto any = [&] { return at(folders[random() % folders.size()]); };
     std::error_code ignored; // what is impossible changes nothing
-    for (int i = 0; i < 400; ++i) {
+    for (int i = 0; i < 250; ++i) {
         const std::string name = (i % 3 ? "W" : "x") + std::to_string(random() % 8);
         switch (random() % 6) {
         case 0:
