@@ -51,9 +51,9 @@ struct WizardOutlets {
 
     // 13 Services and Spotlight: for this user, for all users
     controls::TextField spotText;
-    controls::RadioMatrix spotBtns{2};
+    controls::RadioMatrix spotBtns{2, 0, controls::RadioMatrix::Emptying::byUser};
     controls::TextField servText;
-    controls::RadioMatrix servBtns{2};
+    controls::RadioMatrix servBtns{2, 0, controls::RadioMatrix::Emptying::byUser};
 
     // 16 a copy found by the patcher
     controls::TextField patchFound;

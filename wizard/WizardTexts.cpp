@@ -122,18 +122,23 @@ void WizardTexts::showLog() {
                         m_needs.outlets.window);
 }
 
+std::string WizardTexts::lineFor(const ComponentOutcome& outcome) const {
+    std::string line = formatted(m_needs.texts.lookUp(sentenceFor(outcome)),
+                                 {m_needs.texts.translated(outcome.name)});
+    if (outcome.reason)
+        line +=
+            " " + formatted(m_needs.texts.lookUp(outcome.reason->text), {outcome.reason->about});
+    return line;
+}
+
 controls::StyledText WizardTexts::summary() const {
     if (m_needs.session.outcomes.empty())
         return controls::StyledText::plain(m_needs.texts.lookUp("Nothing was changed."));
     controls::StyledText text;
-    for (const ComponentOutcome& outcome : m_needs.session.outcomes) {
-        std::string line = formatted(m_needs.texts.lookUp(sentenceFor(outcome)),
-                                     {m_needs.texts.translated(outcome.name)});
-        if (outcome.reason)
-            line += " " +
-                    formatted(m_needs.texts.lookUp(outcome.reason->text), {outcome.reason->about});
-        text.runs.push_back({line + "\n", {}, !outcome.succeeded()});
-    }
+    for (const bool changes : {true, false}) // what is as it was comes last
+        for (const ComponentOutcome& outcome : m_needs.session.outcomes)
+            if (changes == (outcome.result != ComponentOutcome::Result::unchanged))
+                text.runs.push_back({lineFor(outcome) + "\n", {}, !outcome.succeeded()});
     text.paragraphSpacing = 4;
     return text;
 }
