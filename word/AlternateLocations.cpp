@@ -109,6 +109,7 @@ void AlternateLocations::alertDidEndWord(std::int32_t returnCode) {
 
 void AlternateLocations::remember(const std::string& record) {
     m_needs.breadcrumbs.addWordCrumb(record);
+    m_needs.discovery.addToWordPaths({record}); // which searches only while it knows none
     m_needs.startupFolders.constructWordAndStartupPaths();
     m_needs.outlets.acTbl.reloadData();
 }

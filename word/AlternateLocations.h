@@ -30,7 +30,7 @@ class AlternateLocations : public controls::TableDataSource {
         AlertPanels& panels;
         FileOperations& files;
         Breadcrumbs& breadcrumbs;
-        const AppDiscovery& discovery;
+        AppDiscovery& discovery;
         WordStartupFolders& startupFolders;
         const ports::LocalizedTexts& texts;
     };

@@ -45,6 +45,17 @@ TEST_F(LocationButtonsTest, PlusAsksForWordAndWithSetForItsStartupFolder) {
     EXPECT_EQ(controller->m_crumb_version, 14);
 }
 
+TEST_F(LocationButtonsTest, AWordThatIsAddedStandsAtOnceAfterThoseThatWereFound) {
+    threeRows();
+    const std::string path = installation("Third", "15.2");
+    choose(path);
+    choose("/S3");
+    presses = {"Set"};
+    controller->acPlus.press();
+    ASSERT_EQ(table().rows(), 4);
+    EXPECT_THAT(row(3), ElementsAre(path, "/S3", "2016"));
+}
+
 TEST_F(LocationButtonsTest, ItIsWantedThatNoLooksForTheFolderOfTheWordAndNotForTheWord) {
     const std::string path = installation("Office 16", "16");
     const std::string holder = folder.path("Office 16");
