@@ -11,8 +11,6 @@ namespace ec {
 
 namespace {
 
-constexpr ports::TextKey kInstallerTitle = "Scrivel 21 Installer";
-
 /// The rows of `matSVWInstall`.
 constexpr int kInstallRow = 0;
 constexpr int kUninstallRow = 1;

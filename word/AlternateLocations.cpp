@@ -16,8 +16,6 @@ namespace fs = std::filesystem;
 
 namespace {
 
-constexpr ports::TextKey kInstallerTitle = "Scrivel 21 Installer";
-
 /// A Word installation has it beside the application.
 constexpr std::string_view kOfficeFolder = "Office";
 

@@ -6,6 +6,7 @@
 #include <string_view>
 
 #include "cp/CDir.h"
+#include "cp/CException.h"
 #include "cp/CFileUtils.h"
 #include "cp/CPath.h"
 #include "cp/CaseFolding.h"
@@ -156,9 +157,14 @@ void WordAddIn::copyInto(const std::string& folder, const AddIn& addIn) {
 void WordAddIn::preparePmrkFolder() {
     using namespace Corvaldine::CP;
     CPath chosen;
-    if (CFileUtils::temp_file(chosen, "SV", 0))
-        CFileUtils::remove(chosen);
-    (void)CDir::create(chosen, false);
+    try {
+        if (CFileUtils::temp_file(chosen, "SV", 0))
+            CFileUtils::remove(chosen);
+        (void)CDir::create(chosen, false);
+    } catch (const CException&) {
+        m_needs.log.logException();
+        return;
+    }
     const std::string temporary = utf8(chosen);
     m_tmpPmrkFolder = inFolder(temporary, std::string(product::kArchiveTopFolder));
 

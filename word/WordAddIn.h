@@ -57,8 +57,8 @@ class WordAddIn {
 
     /// `preparePmrkFolder` unpacks the installer's archive into a temporary folder, adds the
     /// installer itself and puts that into "/Applications/Scrivel Penmark" in place of what is
-    /// there; not when the installer runs from there. Nothing calls it in the present wizard.
-    /// Throws CException where there is no temporary folder.
+    /// there; not when the installer runs from there. Where there is no place for a temporary
+    /// folder that is logged, and nothing happens. Nothing calls it in the present wizard.
     void preparePmrkFolder();
 
     /// `cleanupPmrkFolder` removes what `preparePmrkFolder` unpacked, and what is called "Scrivel"

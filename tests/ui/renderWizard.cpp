@@ -173,8 +173,6 @@ Walk::Deed show(int page) {
     return [page](Walk& walk) {
         ec::ecController& wizard = walk.wizard;
         wizard.ecTabView.select(page);
-        wizard.backBtn.setHidden(page == ec::page::kLocations);
-        wizard.nextBtn.setHidden(page == ec::page::kLocations);
         std::string title;
         for (const ec::PageTitle& its : ec::gInstallStateLabels)
             if (its.page == page)
@@ -206,27 +204,16 @@ void closePanel(Walk& walk) {
         }
 }
 
-/// Copies of Word as the page of locations lists them.
-class Copies final : public controls::TableDataSource {
-  public:
-    int numberOfRowsInTableView() override { return 2; }
-    std::string tableViewObjectValue(std::string_view column, int row) override {
-        if (column == "wordversion")
-            return "2016";
-        if (column == "startupPath")
-            return row == 0 ? "/Library/Application Support/Microsoft/Office365/User "
-                              "Content.localized/Startup.localized/Word"
-                            : "/Users/Shared/Word Startup";
-        return row == 0 ? "/Applications/Microsoft Word.app"
-                        : "/Applications/Office 2016/Microsoft Word.app";
-    }
-};
+void showLocations(Walk& walk) {
+    walk.wizard.locationsBtn.press();
+    walk.wizard.acTbl.selectRow(0);
+}
+void hideLocations(Walk& walk) {
+    walk.wizard.acDoneBtn.press();
+}
 
 /// What a run on a machine with all of it would say.
 void fillPages(Walk& walk) {
-    static Copies copies;
-    walk.wizard.acTbl.setDataSource(&copies);
-    walk.wizard.acTbl.reloadData();
     walk.wizard.patchFound.setText("/Applications/Scrivel 21/Scrivel 21.app");
     walk.wizard.processingText.setText("Processing: Penmark add-in");
     using Result = ec::ComponentOutcome::Result;
@@ -269,6 +256,9 @@ const std::array kWays{
         [] {
             return Deeds{chooseComponents,
                          take,
+                         showLocations,
+                         take,
+                         hideLocations,
                          askForUninstall,
                          answerNo,
                          readHelp,
@@ -304,9 +294,9 @@ const std::array kWays{
         [] {
             Deeds deeds{fillPages};
             deeds.insert(deeds.end(), {show(10), work, take, rest});
-            for (const int page : {7, 9, 11, 12, 16, 17, 18, 23, 25, 27, 28})
+            for (const int page : {7, 9, 11, 12, 16, 17, 18, 23, 27, 28})
                 deeds.insert(deeds.end(), {show(page), take});
-            deeds.insert(deeds.end(), {show(25), openPanel, closePanel});
+            deeds.insert(deeds.end(), {show(23), openPanel, closePanel});
             return deeds;
         }},
 };

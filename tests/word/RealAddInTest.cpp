@@ -8,6 +8,7 @@
 #include <gmock/gmock.h>
 #include <gtest/gtest.h>
 
+#include "cp/private/SystemFolders.h"
 #include "platform/formats/AppleDouble.h"
 #include "platform/formats/ResourceFork.h"
 #include "platform/formats/VersionResource.h"
@@ -315,6 +316,53 @@ TEST_F(RealAddIn, ALinkToAStartupFolderIsFollowedAndStays) {
     EXPECT_EQ(install(OpMode::remove), 1);
     EXPECT_THAT(folder.names("Elsewhere"), IsEmpty());
     EXPECT_TRUE(fs::is_symlink(shared));
+}
+
+// --- the staged folder
+
+struct RealStagedPenmark : RealAddIn {
+    void SetUp() override {
+        RealAddIn::SetUp();
+        Corvaldine::CP::Private::set_system_folder_bases(
+            {.root = folder.path("root"), .home = "", .temporary = folder.path("temporary")});
+        for (const auto* made : {"temporary", "disk/Installer.app/Contents/Resources"})
+            fs::create_directories(folder.path(made));
+        folder.write("disk/Installer.app/Contents/MacOS/Installer", "the installer");
+        folder.write("product/Scrivel/Read Me.txt", "read me");
+        folder.write("product/Scrivel/Scrivel Penmark/old", "old");
+        ASSERT_EQ(tools.run({SCRIVEL_TOOLS "/makeArchive",
+                             {folder.path("product/Scrivel"), "-o",
+                              bundles.mainResourceFolder() + "/Scrivel.zip"}}),
+                  0);
+    }
+    void TearDown() override { Corvaldine::CP::Private::set_system_folder_bases({}); }
+
+    std::string inTemporary() const {
+        return folder.path("temporary/" + folder.names("temporary").front());
+    }
+};
+
+TEST_F(RealStagedPenmark, HoldsTheProductAndTheInstallerAndNothingThatWasThereBefore) {
+    folder.write("root/Applications/Scrivel Penmark/earlier", "earlier");
+    controller->preparePmrkFolder();
+    EXPECT_THAT(folder.names("root/Applications/Scrivel Penmark"),
+                ElementsAre("Installer.app", "Read Me.txt"));
+    EXPECT_EQ(folder.read("root/Applications/Scrivel Penmark/Installer.app/Contents/MacOS/"
+                          "Installer"),
+              "the installer");
+}
+
+TEST_F(RealStagedPenmark, ItIsWantedThatCleaningUpTakesTheBareNameAndLeavesTheFolderRoundIt) {
+    controller->preparePmrkFolder();
+    folder.write("current/Scrivel/mine", "mine");
+    folder.write("current/Scrivel 21", "mine too");
+    const fs::path before = fs::current_path();
+    fs::current_path(folder.path("current"));
+    controller->cleanupPmrkFolder();
+    fs::current_path(before);
+    EXPECT_THAT(folder.names("current"), ElementsAre("Scrivel 21"));
+    ASSERT_THAT(folder.names("temporary"), testing::SizeIs(1));
+    EXPECT_TRUE(fs::is_empty(inTemporary())) << "the folder round the staged one stays";
 }
 
 } // namespace

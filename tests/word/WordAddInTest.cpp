@@ -342,6 +342,16 @@ TEST_F(StagedPenmark, WithoutArchiveAndIconHoldsTheInstallerAlone) {
                                             "/Scrivel"));
 }
 
+TEST_F(StagedPenmark, WithoutAPlaceForATemporaryFolderIsNotTouched) {
+    Corvaldine::CP::Private::set_system_folder_bases(
+        {.root = folder.path(), .home = "", .temporary = folder.write("file", "") + "/inside"});
+    controller->preparePmrkFolder();
+    EXPECT_THAT(logged(), ElementsAre("Exception Raised "));
+    EXPECT_THAT(toolCalls(), IsEmpty());
+    controller->cleanupPmrkFolder();
+    EXPECT_THAT(logged(), IsEmpty());
+}
+
 TEST_F(StagedPenmark, IsLeftAloneWhenTheInstallerRunsFromThere) {
     host.bundles.bundle = folder.path("applications/SCRIVEL Penmark/Installer.app");
     controller->preparePmrkFolder();
