@@ -1,11 +1,11 @@
 #include "engine/BrowserExtension.h"
 
 #include <filesystem>
-#include <fstream>
 
 #include <nlohmann/json.hpp>
 
 #include "engine/AtomicFile.h"
+#include "engine/FileBytes.h"
 #include "engine/FolderListing.h"
 #include "engine/Guarded.h"
 #include "wizard/LaunchModes.h"
@@ -91,8 +91,7 @@ bool BrowserExtension::copy() {
 bool BrowserExtension::useChromeStore() const {
     if (!isThere(file()))
         return true;
-    std::ifstream stream(file(), std::ios::binary);
-    const auto object = nlohmann::json::parse(stream, nullptr, false);
+    const auto object = nlohmann::json::parse(bytesOfFile(file()), nullptr, false);
     if (!object.is_object())
         return true;
     const auto address = object.find(kUpdateAddress);

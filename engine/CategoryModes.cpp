@@ -22,6 +22,12 @@ MethodAnswer truth(bool value) {
     return MethodAnswer::of(value ? 1 : 0);
 }
 
+/// Without the separators at its end, which count for nothing.
+std::string trimmed(std::string path) {
+    path.erase(path.find_last_not_of('/') + 1);
+    return path;
+}
+
 ComponentParts missing(const std::string& source) {
     return {.obstacle = OutcomeReason{"“%@” is missing from this copy of the installer.", source}};
 }
@@ -30,9 +36,9 @@ ComponentParts missing(const std::string& source) {
 
 CategoryModes::Places CategoryModes::placesOf(std::uint32_t itemNum) const {
     const auto paths = m_needs.rules.getItemFiles(itemNum);
-    if (!paths || paths->empty())
+    const std::string path = paths && !paths->empty() ? trimmed(paths->front()) : std::string();
+    if (path.empty()) // the folder of the application itself is nobody's category
         throw ports::PlatformError("the rule names no category");
-    const std::string& path = paths->front();
     const std::string folder = fs::path(m_needs.bundles.mainBundle()).parent_path().native();
     const std::string content = inFolder(folder, std::string(kContentBundle));
     return {.source = inFolder(content, path),

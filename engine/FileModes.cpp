@@ -2,6 +2,8 @@
 
 #include <filesystem>
 
+#include "cp/CDir.h"
+#include "cp/CFileUtils.h"
 #include "engine/FolderListing.h"
 #include "engine/Guarded.h"
 #include "platform/ports/PlatformError.h"
@@ -23,17 +25,21 @@ std::string needed(OptionalText path) {
     return std::string(*path);
 }
 
+/// As the platform's file manager copies: links as links, all else whole with what belongs to it,
+/// and never half.
 MethodAnswer copied(const std::string& source, const std::string& destination) {
     std::error_code failure;
-    const fs::file_status before = fs::symlink_status(destination, failure);
-    if (before.type() != fs::file_type::not_found)
+    if (fs::symlink_status(destination, failure).type() != fs::file_type::not_found)
         return kNotDone;
-    fs::copy(source, destination, fs::copy_options::recursive | fs::copy_options::copy_symlinks,
-             failure);
-    if (!failure)
-        return kDone;
-    fs::remove_all(destination, failure); // half a copy is none
-    return kNotDone;
+    const fs::file_type kind = fs::symlink_status(source, failure).type();
+    if (kind == fs::file_type::symlink) {
+        fs::copy_symlink(source, destination, failure);
+        return failure ? kNotDone : kDone;
+    }
+    const bool isCopied = kind == fs::file_type::directory
+                              ? Corvaldine::CP::CDir::copy(source, destination, false)
+                              : Corvaldine::CP::CFileUtils::copy(source, destination, false);
+    return isCopied ? kDone : kNotDone;
 }
 
 MethodAnswer removed(const std::string& path) {
@@ -57,12 +63,14 @@ MethodAnswer FileModes::installFileMode(OpMode mode, std::uint32_t itemNum, Opti
                                         OptionalText dest) {
     m_needs.log.logMessage("File: " + shown(source));
     return logged(m_needs.log, [&] {
-        const std::string target = needed(dest) + "/" + shown(m_needs.rules.getItemName(itemNum));
+        const auto target = [&] {
+            return needed(dest) + "/" + shown(m_needs.rules.getItemName(itemNum));
+        };
         switch (mode) {
         case OpMode::check:
-            return leadsSomewhere(target) ? kDone : kDisabled;
+            return leadsSomewhere(target()) ? kDone : kDisabled;
         case OpMode::copy:
-            return copied(needed(source), target);
+            return copied(needed(source), target());
         case OpMode::remove: // whether source and destination differ would change nothing
         default:
             return kNotDone;

@@ -1,6 +1,6 @@
 // Three plain install methods: one file beside the application, one folder, and the uninstaller,
 // which is nobody's business here. Called by the driver. Copies and removals are made by the
-// program itself, without tools; a copy never overwrites.
+// program itself, without tools; a copy never overwrites, and keeps modes, times and attributes.
 //
 // Answers: in a check the state found, else 1 for success. A missing path where one is needed
 // raises, as the platform's file manager does: that is caught, logged, and answers -1. Main thread.

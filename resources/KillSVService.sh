@@ -1,23 +1,25 @@
 #!/bin/sh
 # Stops the running Services application of this user, so that its bundle can be replaced or
 # removed. The wizard runs it before it does either. Asks nobody. Ends with 0 when none runs any
-# more, also when none ran; with 1 when one does not end within five seconds.
+# more, also when none ran; with 1 when one does not end within about five seconds.
 #
 # A process counts whose executable is SVService.app/Contents/MacOS/SVService, wherever that lies.
 set -u
 executable=SVService.app/Contents/MacOS/SVService
 user=$(id -u)
 
+# One look at all processes, so that a busy machine does not stretch the limit.
 running() {
     if [ -d /proc/self ]; then
-        for process in /proc/[0-9]*; do
-            case $(readlink "$process/exe" 2>/dev/null) in
-            */"$executable" | */"$executable (deleted)")
-                [ "$(stat -c %u "$process" 2>/dev/null)" = "$user" ] && echo "${process#/proc/}" ;;
+        find /proc/[0-9]*/exe -maxdepth 0 -user "$user" \
+            \( -lname "*/$executable" -o -lname "*/$executable (deleted)" \) 2>/dev/null |
+            sed 's,^/proc/\([0-9]*\)/exe$,\1,'
+    else
+        /bin/ps -axww -o pid=,uid=,comm= | while read -r process owner path; do
+            case $owner:$path in
+            "$user":*/"$executable") echo "$process" ;;
             esac
         done
-    else
-        /usr/bin/pgrep -U "$user" -f "/$executable\$" || :
     fi
 }
 
