@@ -57,6 +57,16 @@ struct LocationsByKeys : tests::WizardWindow {
         const auto& rows = *find<QTableView>("acTbl")->model();
         return rows.index(row, column).data().toString().toStdString();
     }
+    void expectTheOnlyRowToBeSelectedBy(int arrow) {
+        found("Only");
+        walk(modes::kCustomize, {entering(),
+                                 [=, this] {
+                                     EXPECT_EQ(focusName(), "acTbl");
+                                     press(arrow);
+                                     EXPECT_EQ(wizard.acTbl.selectedRow(), 0);
+                                 },
+                                 key(Qt::Key_Return), key(Qt::Key_Escape)});
+    }
     Deed at(int number) {
         return [this, number] {
             EXPECT_EQ(wizard.ecTabView.selected(), number);
@@ -124,22 +134,17 @@ TEST_F(LocationsByKeys, TheRowsAreGoneThroughByArrows) {
                              page(25), key(Qt::Key_Return), key(Qt::Key_Escape)});
 }
 
-struct TheOnlyRow : LocationsByKeys, testing::WithParamInterface<int> {};
-
-TEST_P(TheOnlyRow, IsSelectedByAnyArrow) {
-    found("Only");
-    walk(modes::kCustomize, {entering(),
-                             [this] {
-                                 EXPECT_EQ(focusName(), "acTbl");
-                                 press(GetParam());
-                                 EXPECT_EQ(wizard.acTbl.selectedRow(), 0);
-                             },
-                             key(Qt::Key_Return), key(Qt::Key_Escape)});
+TEST_F(LocationsByKeys, TheOnlyRowIsSelectedByTheDownKey) {
+    expectTheOnlyRowToBeSelectedBy(Qt::Key_Down);
 }
 
-INSTANTIATE_TEST_SUITE_P(Locations, TheOnlyRow,
-                         testing::Values(int(Qt::Key_Down), int(Qt::Key_Up), int(Qt::Key_Home),
-                                         int(Qt::Key_End)));
+TEST_F(LocationsByKeys, TheOnlyRowIsSelectedByTheUpKey) {
+    expectTheOnlyRowToBeSelectedBy(Qt::Key_Up);
+}
+
+TEST_F(LocationsByKeys, TheOnlyRowIsSelectedByTheEndKey) {
+    expectTheOnlyRowToBeSelectedBy(Qt::Key_End);
+}
 
 TEST_F(LocationsByKeys, PlusAddsAWordWithAStartupFolderThatIsSet) {
     const std::string word = installation("Office 16");
