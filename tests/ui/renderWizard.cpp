@@ -91,6 +91,8 @@ class Walk final : private controls::Control::Observer {
                 return button->click();
         fail(std::string("no sheet has a button ") + name);
     }
+    /// The page of work is in sight without any.
+    void pretendToWork(bool pretends) { m_pretendsToWork = pretends; }
     bool succeeded() const { return !m_failed && m_deeds.empty() && m_taken > 0; }
 
   private:
@@ -98,8 +100,14 @@ class Walk final : private controls::Control::Observer {
         std::fprintf(stderr, "renderWizard: %s\n", why.c_str());
         m_failed = true;
     }
+    /// Nobody can do anything while the wizard works, but the window lives on.
+    bool isAtWork() const {
+        return !m_pretendsToWork && wizard.progress.isRunning() && !wizard.nextBtn.isEnabled();
+    }
     void later() {
         QTimer::singleShot(kBetweenDeeds, qApp, [this] {
+            if (isAtWork())
+                return later();
             if (m_deeds.empty())
                 return wizard.window.orderOut();
             const Deed deed = std::move(m_deeds.front());
@@ -123,6 +131,7 @@ class Walk final : private controls::Control::Observer {
     QString m_pictures;
     QString m_suffix;
     bool m_failed = false;
+    bool m_pretendsToWork = false;
 };
 
 void take(Walk& walk) {
@@ -227,12 +236,14 @@ void fillPages(Walk& walk) {
          .reason = ec::OutcomeReason{"Administrator rights were refused."}}};
 }
 void work(Walk& walk) {
+    walk.pretendToWork(true);
     walk.wizard.runSelector("disableButtons");
     walk.wizard.nextBtn.setEnabled(false);
     walk.wizard.progress.startAnimation();
 }
 
 void rest(Walk& walk) {
+    walk.pretendToWork(false);
     walk.wizard.nextBtn.setEnabled(true);
 }
 
