@@ -2,6 +2,7 @@
 
 #include <algorithm>
 #include <array>
+#include <utility>
 
 #include "engine/FileBytes.h"
 #include "engine/LogText.h"
@@ -135,10 +136,17 @@ controls::StyledText WizardTexts::summary() const {
     if (m_needs.session.outcomes.empty())
         return controls::StyledText::plain(m_needs.texts.lookUp("Nothing was changed."));
     controls::StyledText text;
-    for (const bool changes : {true, false}) // what is as it was comes last
-        for (const ComponentOutcome& outcome : m_needs.session.outcomes)
-            if (changes == (outcome.result != ComponentOutcome::Result::unchanged))
-                text.runs.push_back({lineFor(outcome) + "\n", {}, !outcome.succeeded()});
+    for (const bool changes : {true, false}) { // what is as it was comes last, by itself
+        const bool apart = !text.runs.empty();
+        bool isFirst = true;
+        for (const ComponentOutcome& outcome : m_needs.session.outcomes) {
+            if (changes == (outcome.result == ComponentOutcome::Result::unchanged))
+                continue;
+            const bool parts = std::exchange(isFirst, false) && apart;
+            text.runs.push_back(
+                {(parts ? "\n" : "") + lineFor(outcome) + "\n", {}, !outcome.succeeded()});
+        }
+    }
     text.paragraphSpacing = 4;
     return text;
 }
