@@ -17,7 +17,7 @@ std::vector<std::string> namesAt(OptionalText folder) {
 } // namespace
 
 FolderComparison::Names FolderComparison::nameSet(const std::string& folder) {
-    const std::vector<std::string> names = namesIn(folder);
+    const std::vector<std::string> names = unsortedNamesIn(folder);
     return {names.begin(), names.end()};
 }
 
@@ -34,7 +34,7 @@ bool FolderComparison::itemsAtPath(OptionalText folder, OptionalText other) cons
 }
 
 bool FolderComparison::itemsAtPath(const std::string& folder, const Names& names) const {
-    const std::vector<std::string> here = namesIn(folder);
+    const std::vector<std::string> here = unsortedNamesIn(folder);
     return !here.empty() && !names.empty() &&
            std::ranges::all_of(here, [&](const std::string& name) { return names.contains(name); });
 }
