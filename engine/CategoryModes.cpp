@@ -83,12 +83,12 @@ MethodAnswer CategoryModes::installAllCategoriesMode(OpMode mode, std::uint32_t 
 }
 
 MethodAnswer CategoryModes::checkAll(const Places& places) const {
-    const FolderComparison::Names there = FolderComparison::nameSet(places.destination);
+    const auto there = m_needs.folders.namesOf(places.destination);
     bool somePresent = false;
     bool someMissing = false;
     for (const std::string& category : namesIn(places.source)) {
-        (m_needs.folders.itemsAtPath(inFolder(places.source, category), there) ? somePresent
-                                                                               : someMissing) =
+        (m_needs.folders.itemsAtPath(inFolder(places.source, category), *there) ? somePresent
+                                                                                : someMissing) =
             true;
         if (somePresent && someMissing)
             return MethodAnswer::of(kMixed);
@@ -124,14 +124,14 @@ ComponentParts CategoryModes::categoryParts(std::uint32_t itemNum) const {
 
 ComponentParts CategoryModes::allCategoriesParts(std::uint32_t itemNum) const {
     const Places places = placesOf(itemNum);
-    const FolderComparison::Names popular = FolderComparison::nameSet(places.mostPopular);
+    const auto popular = m_needs.folders.namesOf(places.mostPopular);
     ComponentParts parts;
     for (const std::string& category : namesIn(places.source)) {
         const std::string source = inFolder(places.source, category);
         for (const std::string& name : namesIn(source)) {
             const std::string destination = inFolder(places.destination, name);
             parts.copies.push_back({inFolder(source, name), destination});
-            if (!popular.contains(name))
+            if (!popular->contains(name))
                 parts.traces.push_back(destination);
         }
     }

@@ -16,32 +16,41 @@ std::vector<std::string> namesAt(OptionalText folder) {
 
 } // namespace
 
-FolderComparison::Names FolderComparison::nameSet(const std::string& folder) {
-    const std::vector<std::string> names = namesIn(folder);
-    return {names.begin(), names.end()};
+std::shared_ptr<const FolderComparison::Names>
+FolderComparison::namesOf(const std::string& folder) const {
+    const auto read = [&] {
+        const std::vector<std::string> names = unsortedNamesIn(folder);
+        return std::make_shared<const Names>(names.begin(), names.end());
+    };
+    if (!m_remembered)
+        return read();
+    std::shared_ptr<const Names>& known = (*m_remembered)[folder];
+    if (!known)
+        known = read();
+    return known;
 }
 
 bool FolderComparison::someItemsAtPath(OptionalText folder, OptionalText other) const {
     if (!folder || !other)
         return false;
-    const Names there = nameSet(std::string(*other));
+    const auto there = namesOf(std::string(*other));
     return std::ranges::any_of(namesAt(folder),
-                               [&](const std::string& name) { return there.contains(name); });
+                               [&](const std::string& name) { return there->contains(name); });
 }
 
 bool FolderComparison::itemsAtPath(OptionalText folder, OptionalText other) const {
-    return folder && other && itemsAtPath(std::string(*folder), nameSet(std::string(*other)));
+    return folder && other && itemsAtPath(std::string(*folder), *namesOf(std::string(*other)));
 }
 
 bool FolderComparison::itemsAtPath(const std::string& folder, const Names& names) const {
-    const std::vector<std::string> here = namesIn(folder);
+    const std::vector<std::string> here = unsortedNamesIn(folder);
     return !here.empty() && !names.empty() &&
            std::ranges::all_of(here, [&](const std::string& name) { return names.contains(name); });
 }
 
 bool FolderComparison::removeItemsAtPath(OptionalText folder, OptionalText other) {
     const std::vector<std::string> names = namesAt(folder);
-    if (names.empty() || namesAt(other).empty())
+    if (names.empty() || !other || !hasEntries(std::string(*other)))
         return false;
     return std::ranges::all_of(names, [&](const std::string& name) {
         return m_needs.files.removeFile(inFolder(std::string(*other), name)).succeeded();

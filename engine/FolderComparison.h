@@ -6,7 +6,10 @@
 // nothing is done. Names are compared byte for byte. Main thread.
 #pragma once
 
+#include <memory>
+#include <optional>
 #include <string>
+#include <unordered_map>
 #include <unordered_set>
 #include <vector>
 
@@ -31,8 +34,23 @@ class FolderComparison {
 
     /// The same against a folder whose names are at hand, for many questions about one folder.
     using Names = std::unordered_set<std::string>;
-    static Names nameSet(const std::string& folder);
+    std::shared_ptr<const Names> namesOf(const std::string& folder) const;
     bool itemsAtPath(const std::string& folder, const Names& names) const;
+
+    /// While one lives, the names of a folder are read once, however many questions there are: for
+    /// a pass over all components that changes no folder that is asked about.
+    class OneLook {
+      public:
+        explicit OneLook(FolderComparison& folders) : m_folders(folders) {
+            m_folders.m_remembered.emplace();
+        }
+        ~OneLook() { m_folders.m_remembered.reset(); }
+        OneLook(const OneLook&) = delete;
+        OneLook& operator=(const OneLook&) = delete;
+
+      private:
+        FolderComparison& m_folders;
+    };
 
     /// `removeItemsAtPath:fromPath:` removes from `other` what has a name that is in `folder`,
     /// whether or not it is there, in the order of the names. Stops with false at the first that
@@ -48,6 +66,9 @@ class FolderComparison {
 
   private:
     Needs m_needs;
+    /// The folders that were read in the pass that is on; none while there is no pass.
+    mutable std::optional<std::unordered_map<std::string, std::shared_ptr<const Names>>>
+        m_remembered;
 };
 
 } // namespace ec

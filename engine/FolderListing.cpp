@@ -70,15 +70,25 @@ bool compare(const std::string& part, const std::string& whole, bool exactly) {
 
 } // namespace
 
-std::vector<std::string> namesIn(const std::string& folder) {
+std::vector<std::string> unsortedNamesIn(const std::string& folder) {
     std::vector<std::string> names;
     std::error_code error;
     for (fs::directory_iterator at(folder, error), end; !error && at != end; at.increment(error))
         names.push_back(at->path().filename().native());
     if (error)
         names.clear();
+    return names;
+}
+
+std::vector<std::string> namesIn(const std::string& folder) {
+    std::vector<std::string> names = unsortedNamesIn(folder);
     std::ranges::sort(names);
     return names;
+}
+
+bool hasEntries(const std::string& folder) {
+    std::error_code error;
+    return fs::directory_iterator(folder, error) != fs::directory_iterator() && !error;
 }
 
 std::string inFolder(const std::string& folder, const std::string& name) {

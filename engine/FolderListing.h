@@ -11,6 +11,12 @@ namespace ec {
 /// None for a folder that can't be read, or not to its end, and for what is no folder.
 std::vector<std::string> namesIn(const std::string& folder);
 
+/// The same names in whatever order the system has them, for whom the order does not matter.
+std::vector<std::string> unsortedNamesIn(const std::string& folder);
+
+/// Can the folder be read, and is there anything in it?
+bool hasEntries(const std::string& folder);
+
 /// The path of the entry `name` in `folder`; a name that is empty gives the folder.
 std::string inFolder(const std::string& folder, const std::string& name);
 

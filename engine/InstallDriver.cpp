@@ -25,6 +25,7 @@ MethodAnswer InstallDriver::perform(const InstallMethod& method, OpMode mode, st
 }
 
 void InstallDriver::installCheck() {
+    const FolderComparison::OneLook look(m_needs.folders);
     for (std::uint32_t item = 0; item < m_needs.rules.count(); ++item) {
         const auto name = m_needs.rules.getItemMethod(item);
         if (!name)

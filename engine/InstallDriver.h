@@ -9,6 +9,7 @@
 #include <string_view>
 
 #include "engine/ComponentAudit.h"
+#include "engine/FolderComparison.h"
 #include "engine/InstallMethods.h"
 #include "platform/ports/Bundles.h"
 #include "rules/ecRules.h"
@@ -26,6 +27,7 @@ class InstallDriver {
         WizardSteps& steps;
         ecRules& rules;
         const ports::Bundles& bundles;
+        FolderComparison& folders;
         ComponentAudit& audit;
         InstallOperations operations;
     };

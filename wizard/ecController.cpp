@@ -74,6 +74,7 @@ ecController::ecController(const ports::Host& host, ecRules& rules, ecItem& root
                      .steps = *this,
                      .rules = rules,
                      .bundles = host.bundles,
+                     .folders = *this,
                      .audit = *this,
                      .operations = installOperations()}),
       ComponentOutline({.root = root, .ecOutlineView = WizardOutlets::ecOutlineView}),

@@ -12,14 +12,13 @@ namespace {
 
 namespace fs = std::filesystem;
 
-constexpr std::int64_t kFiles = 10;      ///< in a category
-constexpr std::int64_t kCategories = 20; ///< in a collection
+constexpr std::int64_t kFiles = 10; ///< in a category
 
 std::string categoryPath(std::int64_t category) {
-    return "C" + std::to_string(category / kCategories) + "/K" + std::to_string(category);
+    return "C/K" + std::to_string(category);
 }
 
-/// `components` categories of ten files each, in collections of twenty.
+/// `components` categories of ten files each, all in one collection.
 std::unique_ptr<tests::MethodsStage> stageOf(std::int64_t components) {
     std::string rules;
     for (std::int64_t category = 0; category < components; ++category)
@@ -29,7 +28,7 @@ std::unique_ptr<tests::MethodsStage> stageOf(std::int64_t components) {
         for (std::int64_t file = 0; file < kFiles; ++file) {
             const std::string name = std::to_string(category) + " " + std::to_string(file);
             stage->writeContent(categoryPath(category) + "/" + name, name);
-            stage->writeBeside("C" + std::to_string(category / kCategories) + "/" + name, name);
+            stage->writeBeside("C/" + name, name);
         }
     return stage;
 }

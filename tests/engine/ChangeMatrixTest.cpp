@@ -151,6 +151,7 @@ class Matrix {
              .steps = controller,
              .rules = rules,
              .bundles = stage.host.bundles,
+             .folders = controller,
              .audit = controller,
              .operations = {.word = [](OpMode, std::uint32_t, ec::OptionalText,
                                        ec::OptionalText) { return ec::MethodAnswer::of(1); },

@@ -54,6 +54,17 @@ TEST_F(FolderComparisonTest, WithoutACommonNameThereIsNeither) {
     EXPECT_FALSE(folders.itemsAtPath(a, b));
 }
 
+TEST_F(FolderComparisonTest, InOneLookAFolderIsReadOnceAndAfterItAnew) {
+    make({"1"}, {"2"});
+    {
+        const ec::FolderComparison::OneLook look(folders);
+        EXPECT_FALSE(folders.itemsAtPath(a, b));
+        stage.folder.write("b/1", "");
+        EXPECT_FALSE(folders.itemsAtPath(a, b)) << "as it was at the first look";
+    }
+    EXPECT_TRUE(folders.itemsAtPath(a, b));
+}
+
 TEST_F(FolderComparisonTest, NamesAreComparedExactly) {
     make({"Name", "\xC3\xA4"}, {"name", "a\xCC\x88", "Name "});
     EXPECT_FALSE(folders.someItemsAtPath(a, b));

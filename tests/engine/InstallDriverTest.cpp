@@ -46,6 +46,7 @@ class Driven {
                               .steps = controller,
                               .rules = rules,
                               .bundles = stage.host.bundles,
+                              .folders = controller,
                               .audit = controller,
                               .operations = {.word = remembering("word"),
                                              .file = remembering("file"),

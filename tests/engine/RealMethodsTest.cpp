@@ -1,5 +1,4 @@
 // The install methods with the real tools: what is on disk after a change, and what is said of it.
-#include <cstdlib>
 #include <filesystem>
 
 #include <gmock/gmock.h>
@@ -36,10 +35,8 @@ struct RealMethods : testing::Test {
     const std::string extension = stage.system(std::string(ec::gTessaronFile).substr(1));
 
     void SetUp() override {
-        // A tool that looks for its own leaks may not do so while its owner is not its user.
-        ::setenv("ASAN_OPTIONS", "detect_leaks=0", 1);
         stage.host.tools.handler = [this](const ports::ToolCall& call) {
-            return fakes::FakeTools::Answer{.status = tools.run(call)};
+            return fakes::FakeTools::Answer{.status = runAsUser(call)};
         };
         stage.host.administrator.effect = [this](const ports::ToolCall& call) {
             runAsAdministrator(call);
@@ -58,6 +55,25 @@ struct RealMethods : testing::Test {
     void leaveAlone() {
         for (std::uint32_t item = 0; item < rules.count(); ++item)
             rules.setItemState(item, -1);
+    }
+    /// A test that is an ordinary user for a while has the tools be that user altogether, as a
+    /// program is that a user starts.
+    int runAsUser(const ports::ToolCall& call) {
+        const uid_t user = ::geteuid();
+        if (user == ::getuid())
+            return tools.run(call);
+        const std::string own =
+            std::string(SCRIVEL_TOOLS) + "/" + fs::path(call.tool).filename().native();
+        const std::string name = std::to_string(user);
+        ports::ToolCall asUser{"/usr/bin/setpriv",
+                               {"--reuid=" + name, "--regid=" + name, "--clear-groups",
+                                fs::exists(call.tool) ? call.tool : own}};
+        asUser.arguments.insert(asUser.arguments.end(), call.arguments.begin(),
+                                call.arguments.end());
+        EXPECT_EQ(::seteuid(0), 0);
+        const int status = tools.run(asUser);
+        EXPECT_EQ(::seteuid(user), 0);
+        return status;
     }
     /// With the rights that the test itself was started with. The group of the extension's files is
     /// not one of this system's, so their owner stays.
