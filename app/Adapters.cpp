@@ -42,23 +42,20 @@ Adapters::Adapters(const CommandLine& options, std::optional<bool> authorize)
     : places(placesOf(options)), bundles(ownExecutable()),
       texts(options.unattended ? std::make_unique<posix::EnglishTexts>(bundles.mainResourceFolder())
                                : makeTexts(bundles.mainResourceFolder(), preferredLanguages())),
-      events(clock, mainQueue),
-      spawnedTools({.ownToolsFolder = folderOf(bundles.mainExecutable()),
-                    .progress =
-                        [this](const ports::ToolProgress& progress) {
-                            mainQueue.post([this, progress] {
-                                if (showProgress)
-                                    showProgress(progress);
-                            });
-                        },
-                    .whileWaiting = options.unattended ? nullptr : std::function<void()>([this] {
-                        if (keepAlive)
-                            keepAlive();
-                    }),
-                    .outputToError = options.events}),
+      events(clock, mainQueue), spawnedTools({.ownToolsFolder = folderOf(bundles.mainExecutable()),
+                                              .progress =
+                                                  [this](const ports::ToolProgress& progress) {
+                                                      mainQueue.post([this, progress] {
+                                                          if (showProgress)
+                                                              showProgress(progress);
+                                                      });
+                                                  },
+                                              .whileWaiting = whileWaiting(options),
+                                              .outputToError = options.events}),
       tools(spawnedTools, events),
       systemAdministrator(makeAdministrator(folderOf(bundles.mainExecutable()),
-                                            options.unattended ? "" : "scrivel-askpass")),
+                                            options.unattended ? "" : "scrivel-askpass",
+                                            whileWaiting(options))),
       decidedAdministrator(
           authorize
               ? std::make_unique<posix::DecidedAdministrator>(posix::DecidedAdministrator::Needs{
@@ -68,6 +65,16 @@ Adapters::Adapters(const CommandLine& options, std::optional<bool> authorize)
       applications(makeApplications(places, bundles)), finderFiles(makeFinderFiles()) {
     if (options.noLaunch)
         applications = std::make_unique<NoLaunches>(std::move(applications));
+}
+
+/// Keeps the window alive, where there is one.
+std::function<void()> Adapters::whileWaiting(const CommandLine& options) {
+    if (options.unattended)
+        return nullptr;
+    return [this] {
+        if (keepAlive)
+            keepAlive();
+    };
 }
 
 } // namespace app

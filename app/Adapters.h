@@ -51,6 +51,9 @@ struct Adapters {
     std::unique_ptr<ports::Applications> applications;
     std::unique_ptr<ports::FinderFiles> finderFiles;
     posix::BackgroundQueue backgroundQueue;
+
+  private:
+    std::function<void()> whileWaiting(const CommandLine& options);
 };
 
 } // namespace app

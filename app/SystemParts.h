@@ -2,6 +2,7 @@
 // system: SystemParts.linux.cpp, SystemParts.macos.cpp.
 #pragma once
 
+#include <functional>
 #include <memory>
 #include <string>
 #include <vector>
@@ -28,8 +29,10 @@ std::unique_ptr<ports::Applications> makeApplications(const ports::SystemPlaces&
 std::unique_ptr<ports::FinderFiles> makeFinderFiles();
 
 /// `ownToolsFolder` holds the program's own tools, and among them `askPass`, which asks for the
-/// password in a window; empty: the terminal asks.
+/// password in a window; empty: the terminal asks. `whileWaiting` is called every 15 ms or so while
+/// somebody is asked or a tool runs, and may be empty.
 std::unique_ptr<ports::Administrator> makeAdministrator(const std::string& ownToolsFolder,
-                                                        const std::string& askPass);
+                                                        const std::string& askPass,
+                                                        std::function<void()> whileWaiting);
 
 } // namespace app

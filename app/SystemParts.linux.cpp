@@ -3,6 +3,7 @@
 #include <algorithm>
 #include <array>
 #include <cstdlib>
+#include <utility>
 
 #include "platform/linux/OwnExecutable.h"
 #include "platform/linux/PreferredLanguages.h"
@@ -41,10 +42,12 @@ std::unique_ptr<ports::FinderFiles> makeFinderFiles() {
 }
 
 std::unique_ptr<ports::Administrator> makeAdministrator(const std::string& ownToolsFolder,
-                                                        const std::string& askPass) {
+                                                        const std::string& askPass,
+                                                        std::function<void()> whileWaiting) {
     return std::make_unique<posix::SudoAdministrator>(posix::SudoAdministrator::Needs{
         .ownToolsFolder = ownToolsFolder,
-        .askpass = askPass.empty() ? "" : ownToolsFolder + "/" + askPass});
+        .askpass = askPass.empty() ? "" : ownToolsFolder + "/" + askPass,
+        .whileWaiting = std::move(whileWaiting)});
 }
 
 } // namespace app

@@ -1,27 +1,26 @@
 #include "engine/AtomicFile.h"
 
+#include <cstdio>
 #include <filesystem>
-#include <fstream>
 
 namespace ec {
 
 bool writeAtomically(const std::string& path, std::string_view bytes) {
+    namespace fs = std::filesystem;
     const std::string temporary = path + ".new";
     std::error_code failure;
-    std::filesystem::remove(temporary, failure); // also a link that somebody else put there
-    if (failure)
+    fs::remove(temporary, failure);
+    // "x": never through a file or link that somebody put there in the meantime
+    std::FILE* const file = failure ? nullptr : std::fopen(temporary.c_str(), "wbx");
+    if (!file)
         return false;
-    {
-        std::ofstream file(temporary, std::ios::binary);
-        file << bytes;
-        if (!file.flush())
-            failure = std::make_error_code(std::errc::io_error);
+    const bool isWhole = std::fwrite(bytes.data(), 1, bytes.size(), file) == bytes.size();
+    if (std::fclose(file) == 0 && isWhole) {
+        fs::rename(temporary, path, failure);
+        if (!failure)
+            return true;
     }
-    if (!failure)
-        std::filesystem::rename(temporary, path, failure);
-    if (!failure)
-        return true;
-    std::filesystem::remove(temporary, failure);
+    fs::remove(temporary, failure);
     return false;
 }
 

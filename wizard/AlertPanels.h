@@ -11,6 +11,9 @@
 
 namespace ec {
 
+/// What the wizard's own questions are titled.
+inline constexpr ports::TextKey kInstallerTitle = "Scrivel 21 Installer";
+
 class AlertPanels {
   public:
     struct Needs {

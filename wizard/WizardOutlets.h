@@ -13,6 +13,7 @@ inline constexpr int kCount = 29;
 inline constexpr int kLicence = 5;
 inline constexpr int kComponents = 6;
 inline constexpr int kQuitWord = 12;
+inline constexpr int kLocations = 25;
 } // namespace page
 
 struct WizardOutlets {
@@ -46,12 +47,13 @@ struct WizardOutlets {
     controls::OutlineView ecOutlineView;
     controls::TextField infoText; ///< what the selected component is
     controls::Button uninstallBtn;
+    controls::Button locationsBtn; ///< opens the alternate locations
 
     // 13 Services and Spotlight: for this user, for all users
     controls::TextField spotText;
-    controls::RadioMatrix spotBtns{2};
+    controls::RadioMatrix spotBtns{2, 0, controls::RadioMatrix::Emptying::byUser};
     controls::TextField servText;
-    controls::RadioMatrix servBtns{2};
+    controls::RadioMatrix servBtns{2, 0, controls::RadioMatrix::Emptying::byUser};
 
     // 16 a copy found by the patcher
     controls::TextField patchFound;
@@ -63,6 +65,7 @@ struct WizardOutlets {
     controls::Button acMinusBtn;
     controls::Button acChange;
     controls::Button acResetBtn;
+    controls::Button acDoneBtn; ///< leads back to the components
 
     // 26 Penmark welcome: install, uninstall
     controls::RadioMatrix matSVWInstall{2};
@@ -82,6 +85,7 @@ struct WizardOutlets {
                                  {"helpBtn", &helpBtn},
                                  {"logBtn", &logBtn},
                                  {"uninstallBtn", &uninstallBtn},
+                                 {"locationsBtn", &locationsBtn},
                                  {"ecTabView", &ecTabView},
                                  {"ecImage", &ecImage},
                                  {"outlineText", &outlineText},
@@ -108,6 +112,7 @@ struct WizardOutlets {
                                  {"acMinusBtn", &acMinusBtn},
                                  {"acChange", &acChange},
                                  {"acResetBtn", &acResetBtn},
+                                 {"acDoneBtn", &acDoneBtn},
                                  {"matSVWInstall", &matSVWInstall},
                                  {"installSummary", &installSummary},
                                  {"changeSummary", &changeSummary},

@@ -11,8 +11,6 @@ namespace ec {
 
 namespace {
 
-constexpr ports::TextKey kInstallerTitle = "Scrivel 21 Installer";
-
 /// The rows of `matSVWInstall`.
 constexpr int kInstallRow = 0;
 constexpr int kUninstallRow = 1;
@@ -33,6 +31,8 @@ WizardPages::WizardPages(Needs needs) : m_needs(needs) {
     outlets.backBtn.setAction([this] { back(); });
     outlets.cancelBtn.setAction([this] { cancel(); });
     outlets.uninstallBtn.setAction([this] { doUninstall(); });
+    outlets.locationsBtn.setAction([this] { showWordLocations(); });
+    outlets.acDoneBtn.setAction([this] { hideWordLocations(); });
     outlets.agreeBtns.setAction(kAgreeRow, [this] { agreeChangeAgree(); });
     outlets.agreeBtns.setAction(kDisagreeRow, [this] { agreeChangeDisagree(); });
     outlets.ecOutlineView.setSelectionDidChange([this] { describeSelectedComponent(); });
@@ -54,6 +54,7 @@ void WizardPages::next() {
 }
 
 void WizardPages::cancel() {
+    comeBackFromLocations();
     m_needs.log.logMessage("Scrivel 21 Installer: User Cancelled");
     m_needs.runner.dethenticate();
     m_needs.outlets.window.orderOut();
@@ -178,6 +179,7 @@ void WizardPages::comeBackFromQuitWord() {
 }
 
 void WizardPages::wordQuitHandler() {
+    comeBackFromLocations();
     controls::TabView& tabs = m_needs.outlets.ecTabView;
     const int shown = tabs.selected();
     if (m_needs.discovery.isWordRunning()) {
@@ -193,6 +195,37 @@ void WizardPages::wordQuitHandler() {
     tabs.display();
     if ((shown == page::kQuitWord) != (tabs.selected() == page::kQuitWord))
         m_needs.steps.tellRowShown();
+}
+
+void WizardPages::showWordLocations() {
+    WizardOutlets& outlets = m_needs.outlets;
+    if (outlets.ecTabView.selected() != page::kComponents)
+        return;
+    m_uninstallWasHidden = outlets.uninstallBtn.isHidden();
+    outlets.backBtn.setHidden(true);
+    outlets.nextBtn.setHidden(true);
+    outlets.titleText.setText(m_needs.steps.titleOf(page::kLocations));
+    outlets.ecTabView.select(page::kLocations);
+    m_needs.steps.tellRowShown();
+    m_needs.alternateLocations.doAltPMRK();
+}
+
+void WizardPages::hideWordLocations() {
+    if (m_needs.outlets.ecTabView.selected() != page::kLocations)
+        return;
+    comeBackFromLocations();
+    m_needs.steps.tellRowShown();
+}
+
+void WizardPages::comeBackFromLocations() {
+    WizardOutlets& outlets = m_needs.outlets;
+    if (outlets.ecTabView.selected() != page::kLocations)
+        return;
+    outlets.uninstallBtn.setHidden(m_uninstallWasHidden);
+    outlets.backBtn.setHidden(false);
+    outlets.nextBtn.setHidden(false);
+    m_needs.steps.updateTitleText();
+    outlets.ecTabView.select(m_needs.steps.currentRow().page);
 }
 
 void WizardPages::doAgreeChange() {
@@ -218,6 +251,7 @@ bool WizardPages::agreedToUninstall(ports::TextKey message, std::string_view lab
         return false;
     m_needs.session.m_bUninstall = true;
     m_needs.outlets.uninstallBtn.setEnabled(false);
+    m_needs.outlets.locationsBtn.setEnabled(false);
     m_needs.steps.skipToState(label);
     return true;
 }

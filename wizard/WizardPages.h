@@ -104,6 +104,12 @@ class WizardPages {
     void doGoCustom() { skipToAltPMRK(); }
     void skipToAltPMRK() { m_needs.steps.skipToState("altPMRK"); }
 
+    /// `showWordLocations` brings up the page of the alternate locations from the page of the
+    /// components, without Back and Next; no row of the steps leads there. `hideWordLocations`
+    /// leads back, with the buttons as they were. Elsewhere either does nothing.
+    void showWordLocations();
+    void hideWordLocations();
+
     /// `doStartSVWeb`, on leaving the Penmark welcome page: installs or uninstalls, as chosen
     /// there.
     ActionResult doStartSVWeb();
@@ -124,6 +130,8 @@ class WizardPages {
     void beginWork();
     /// Shows the current step's page again, with the buttons as they were.
     void comeBackFromQuitWord();
+    /// The same for the page of the alternate locations; nothing where that is not in sight.
+    void comeBackFromLocations();
     bool agreedToUninstall(ports::TextKey message, std::string_view label);
 
     /// The buttons before the page that asks to quit Word came up: they are so again after it, as
@@ -135,6 +143,7 @@ class WizardPages {
 
     Needs m_needs;
     ButtonsBeforeQuitWord m_asTheyWere;
+    bool m_uninstallWasHidden = false; ///< before the alternate locations came up
 };
 
 } // namespace ec

@@ -77,6 +77,7 @@ void WizardStartUp::beginAnew() {
     m_needs.session.m_bUninstall = false;
     m_needs.session.outcomes.clear();
     m_needs.outlets.uninstallBtn.setEnabled(true);
+    m_needs.outlets.locationsBtn.setEnabled(true);
     m_needs.outlets.cancelBtn.setEnabled(true);
 }
 

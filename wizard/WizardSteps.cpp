@@ -147,8 +147,10 @@ void WizardSteps::skipToRelativeState(std::int32_t rows) {
 void WizardSteps::showRow(Redraw redraw) {
     WizardOutlets& outlets = m_needs.outlets;
     const StepRow& row = currentRow();
+    outlets.backBtn.setHidden(false);
     outlets.backBtn.setEnabled(m_state != 0);
     outlets.backBtn.setTitle(m_needs.texts.lookUp("Back"));
+    outlets.nextBtn.setHidden(false);
     outlets.nextBtn.setEnabled(true);
     outlets.nextBtn.setTitle(m_needs.texts.lookUp("Next"));
     outlets.ecTabView.select(row.page);
@@ -195,15 +197,15 @@ void WizardSteps::updateOutlineText() {
     m_needs.outlets.outlineText.setStyledText(std::move(text));
 }
 
-std::string WizardSteps::currentTitle() const {
-    const auto* found = std::ranges::find(gInstallStateLabels, currentRow().page, &PageTitle::page);
+std::string WizardSteps::titleOf(int page) const {
+    const auto* found = std::ranges::find(gInstallStateLabels, page, &PageTitle::page);
     return found == gInstallStateLabels.end()
                ? std::string()
                : m_titles[static_cast<std::size_t>(found - gInstallStateLabels.begin())];
 }
 
 void WizardSteps::updateTitleText() {
-    m_needs.outlets.titleText.setText(currentTitle());
+    m_needs.outlets.titleText.setText(titleOf(currentRow().page));
 }
 
 void WizardSteps::tellRowShown() const {
@@ -212,9 +214,10 @@ void WizardSteps::tellRowShown() const {
     std::vector<std::string> names;
     for (const OutlineRow& entry : gNavListPtr)
         names.push_back(m_needs.texts.lookUp(entry.name));
-    m_needs.rowShown({.page = m_needs.outlets.ecTabView.selected(),
+    const int shown = m_needs.outlets.ecTabView.selected();
+    m_needs.rowShown({.page = shown,
                       .state = m_state,
-                      .title = currentTitle(),
+                      .title = titleOf(shown == page::kLocations ? shown : currentRow().page),
                       .outline = std::move(names),
                       .current = currentOutlineEntry(),
                       .identity = std::string(m_identity)});

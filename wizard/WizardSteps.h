@@ -66,6 +66,8 @@ class WizardSteps {
     void updateOutlineText();
     /// `updateTitleText` shows the title of the current row's page.
     void updateTitleText();
+    /// The title of a page in the user's language; empty for a page that has none.
+    std::string titleOf(int page) const;
 
     /// `secretIdentity`: what the mode calls itself; empty for the first install.
     std::string_view secretIdentity() const { return m_identity; }
@@ -94,7 +96,6 @@ class WizardSteps {
     void stepBack();
     void refresh();
     int currentOutlineEntry() const;
-    std::string currentTitle() const;
 
     Needs m_needs;
     std::array<std::string, gInstallStateLabels.size()> m_titles;

@@ -2,6 +2,7 @@
 
 #include <algorithm>
 #include <array>
+#include <utility>
 
 #include "engine/FileBytes.h"
 #include "engine/LogText.h"
@@ -122,17 +123,29 @@ void WizardTexts::showLog() {
                         m_needs.outlets.window);
 }
 
+std::string WizardTexts::lineFor(const ComponentOutcome& outcome) const {
+    std::string line = formatted(m_needs.texts.lookUp(sentenceFor(outcome)),
+                                 {m_needs.texts.translated(outcome.name)});
+    if (outcome.reason)
+        line +=
+            " " + formatted(m_needs.texts.lookUp(outcome.reason->text), {outcome.reason->about});
+    return line;
+}
+
 controls::StyledText WizardTexts::summary() const {
     if (m_needs.session.outcomes.empty())
         return controls::StyledText::plain(m_needs.texts.lookUp("Nothing was changed."));
     controls::StyledText text;
-    for (const ComponentOutcome& outcome : m_needs.session.outcomes) {
-        std::string line = formatted(m_needs.texts.lookUp(sentenceFor(outcome)),
-                                     {m_needs.texts.translated(outcome.name)});
-        if (outcome.reason)
-            line += " " +
-                    formatted(m_needs.texts.lookUp(outcome.reason->text), {outcome.reason->about});
-        text.runs.push_back({line + "\n", {}, !outcome.succeeded()});
+    for (const bool changes : {true, false}) { // what is as it was comes last, by itself
+        const bool apart = !text.runs.empty();
+        bool isFirst = true;
+        for (const ComponentOutcome& outcome : m_needs.session.outcomes) {
+            if (changes == (outcome.result == ComponentOutcome::Result::unchanged))
+                continue;
+            const bool parts = std::exchange(isFirst, false) && apart;
+            text.runs.push_back(
+                {(parts ? "\n" : "") + lineFor(outcome) + "\n", {}, !outcome.succeeded()});
+        }
     }
     text.paragraphSpacing = 4;
     return text;

@@ -39,7 +39,8 @@ class WizardTexts {
     /// Shows the install log.
     void showLog();
 
-    /// What became of each component since the wizard was opened, a line for each.
+    /// What became of each component since the wizard was opened, a line for each; those that are
+    /// as they were come last.
     controls::StyledText summary() const;
 
   private:
@@ -54,6 +55,7 @@ class WizardTexts {
 
     void pageChanged();
     std::string missing(std::string_view name) const;
+    std::string lineFor(const ComponentOutcome& outcome) const;
 
     Needs m_needs;
     PageWatcher m_pageWatcher{*this};

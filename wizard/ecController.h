@@ -32,6 +32,7 @@
 #include "word/AlternateLocations.h"
 #include "word/AppDiscovery.h"
 #include "word/Breadcrumbs.h"
+#include "word/WordAddIn.h"
 #include "word/WordStartupFolders.h"
 
 namespace ec {
@@ -48,6 +49,7 @@ class ecController final : public ActionPerformer,
                            public Breadcrumbs,
                            public AppDiscovery,
                            public WordStartupFolders,
+                           public WordAddIn,
                            public FileModes,
                            public CategoryModes,
                            public SpotlightServices,

@@ -5,10 +5,10 @@
 #include <cstdio>
 #include <cstdlib>
 #include <filesystem>
-#include <iterator>
 #include <limits>
 #include <system_error>
 
+#include "cp/FolderWalk.h"
 #include "platform/formats/ResourceFork.h"
 #include "platform/formats/VersionResource.h"
 #include "platform/ports/PlatformError.h"
@@ -78,29 +78,6 @@ bool isIn(int version, int fromVer, int toVer) {
     return fromVer <= version && version <= toVer;
 }
 
-/// The folder's entries in the reverse order of their names, so that the last comes first. A folder
-/// that can't be read, or not to its end, has those that could be read.
-std::vector<fs::directory_entry> entriesFromTheLast(const fs::path& folder) {
-    std::vector<fs::directory_entry> entries;
-    std::error_code error;
-    for (fs::directory_iterator at(folder, error), end; !error && at != end; at.increment(error))
-        entries.push_back(*at);
-    std::ranges::sort(entries, std::ranges::greater(),
-                      [](const fs::directory_entry& entry) -> const std::string& {
-                          return entry.path().native();
-                      });
-    return entries;
-}
-
-/// Is it a folder to look into? Its kind is what the folder above says: nothing is asked of the
-/// item itself.
-bool isOpenFolder(const fs::directory_entry& entry) {
-    std::error_code error;
-    const fs::path extension = entry.path().extension();
-    return extension != ".app" && extension != ".bundle" && !entry.is_symlink(error) &&
-           entry.is_directory(error);
-}
-
 } // namespace
 
 int AppDiscovery::getMajorVersion(OptionalText path) const {
@@ -160,18 +137,12 @@ AppDiscovery::Paths AppDiscovery::findApplication(std::string_view name, int fro
     m_needs.log.logMessage(formatted("findApplication: %@", {name}));
     Paths found;
     try {
-        auto pending = entriesFromTheLast(m_needs.session.places.system("/Applications"));
-        while (!pending.empty()) {
-            const fs::directory_entry entry = std::move(pending.back());
-            pending.pop_back();
-            const std::string& path = entry.path().native();
-            if (entry.path().filename().native() == name &&
-                (kindOf(path) == fs::file_type::directory ||
-                 isIn(getMajorVersion(path), fromVer, toVer)))
-                found.push_back(path);
-            if (isOpenFolder(entry))
-                std::ranges::move(entriesFromTheLast(entry.path()), std::back_inserter(pending));
-        }
+        using Corvaldine::CP::FolderWalk;
+        FolderWalk walk([name](std::string_view item) { return item == name; });
+        for (std::string& path : walk.find(m_needs.session.places.system("/Applications")))
+            if (kindOf(path) == fs::file_type::directory ||
+                isIn(getMajorVersion(path), fromVer, toVer))
+                found.push_back(std::move(path));
     } catch (const ports::PlatformError&) {
         m_needs.log.logException();
     }

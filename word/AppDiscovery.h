@@ -69,9 +69,9 @@ class AppDiscovery {
                                                               int fromVer, int toVer) const;
 
     /// `findApplication:fromVer:toVer:` walks "/Applications" for items of exactly this name:
-    /// folders, whatever their version, and others with a major version in that range. Never looks
-    /// into "X.app" and "X.bundle" and follows no links. Logs the name; a failure of the host is
-    /// logged and ends the walk with what was found before.
+    /// folders, whatever their version, and others with a major version in that range, in the order
+    /// of a FolderWalk. Never looks into "X.app" and "X.bundle" and follows no links. Logs the
+    /// name; a failure of the host is logged and ends the walk with what was found before.
     Paths findApplication(std::string_view name, int fromVer, int toVer) const;
 
     /// `addToWordPaths:` adds the Word path of each entry, a pair record or a plain path, to those
@@ -82,6 +82,9 @@ class AppDiscovery {
     /// host knows (12 to 99), then old ones by their name (10 and 11). Searches only while there is
     /// none, and logs what a search found.
     const Paths& wordPaths();
+
+    /// Those that were found before; never searches.
+    const Paths& knownWordPaths() const { return m_wordPaths.paths(); }
 
     /// `checkWordExists`: is there any?
     bool checkWordExists() { return !wordPaths().empty(); }

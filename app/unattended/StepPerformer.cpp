@@ -74,9 +74,12 @@ struct Performer {
             return notThere("radio matrix", step.outlet, scene);
         if (auto refusal = outOfReach("radio matrix", step.outlet, *matrix))
             return refusal;
-        if (step.row < 0 || step.row >= matrix->rows())
+        if (step.row < (matrix->canBeEmptied() ? -1 : 0) || step.row >= matrix->rows())
             return noSuchRow(step.outlet, step.row, matrix->rows());
-        matrix->press(step.row);
+        if (step.row < 0)
+            matrix->pressOff();
+        else
+            matrix->press(step.row);
         return std::nullopt;
     }
 

@@ -17,14 +17,6 @@ struct CloseDirectory {
     void operator()(DIR* directory) const { ::closedir(directory); }
 };
 
-bool isFolder(int folder, const dirent& entry) {
-    if (entry.d_type != DT_UNKNOWN)
-        return entry.d_type == DT_DIR;
-    struct stat status{};
-    return ::fstatat(folder, entry.d_name, &status, AT_SYMLINK_NOFOLLOW) == 0 &&
-           S_ISDIR(status.st_mode);
-}
-
 struct Level {
     childArray children;
     std::size_t next = 0;
@@ -73,6 +65,13 @@ bool TreeVisitor::left(int, const char*) {
     return true;
 }
 
+bool is_folder(int folder, const char* name, unsigned char kind) {
+    if (kind != DT_UNKNOWN)
+        return kind == DT_DIR;
+    struct stat status{};
+    return ::fstatat(folder, name, &status, AT_SYMLINK_NOFOLLOW) == 0 && S_ISDIR(status.st_mode);
+}
+
 bool list_children(int folder, childArray& children) {
     children.clear();
     FileDescriptor own(::openat(folder, ".", O_RDONLY | O_DIRECTORY | O_CLOEXEC));
@@ -91,7 +90,8 @@ bool list_children(int folder, childArray& children) {
             break;
         if (std::strcmp(entry->d_name, ".") == 0 || std::strcmp(entry->d_name, "..") == 0)
             continue;
-        const std::uint16_t flags = isFolder(folder, *entry) ? kNodeIsDirectory : 0;
+        const std::uint16_t flags =
+            is_folder(folder, entry->d_name, entry->d_type) ? kNodeIsDirectory : 0;
         children.push_back({entry->d_name, flags});
     }
     if (errno != 0)

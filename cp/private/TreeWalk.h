@@ -1,7 +1,8 @@
 // Walks a folder and everything below it by descriptors: names are only ever looked up in a folder
 // that is open, and links are entries like files, so a link put in a folder's place while the walk
 // runs leads nowhere. Two descriptors are open at any depth and nothing recurses, so a tree may be
-// thousands of levels deep. Used for removing, locking and copying.
+// thousands of levels deep. Used for removing, locking and copying; FolderWalk, which only looks
+// for names, has a way of its own that neither sorts nor stops, and shares the steps below.
 #pragma once
 
 #include <cstdint>
@@ -19,6 +20,10 @@ struct childItem {
 };
 /// In the order of the names' bytes.
 using childArray = std::vector<childItem>;
+
+/// Is this entry of an open folder a folder itself? `kind` is what the folder says (DT_DIR and its
+/// like); only where it says nothing is the entry asked. A link is none.
+[[nodiscard]] bool is_folder(int folder, const char* name, unsigned char kind);
 
 /// `children` := the folder's entries without "." and ".."; false when it can't be read.
 [[nodiscard]] bool list_children(int folder, childArray& children);

@@ -10,9 +10,12 @@ namespace controls {
 
 class RadioMatrix final : public Control {
   public:
+    /// Can the user turn the cell off that is on, so that none is?
+    enum class Emptying { never, byUser };
+
     /// `rows` cells, numbered from 0; `selected` is on, -1 for none.
-    explicit RadioMatrix(int rows, int selected = 0)
-        : m_actions(static_cast<std::size_t>(rows)), m_selected(selected) {}
+    explicit RadioMatrix(int rows, int selected = 0, Emptying emptying = Emptying::never)
+        : m_actions(static_cast<std::size_t>(rows)), m_selected(selected), m_emptying(emptying) {}
 
     int rows() const { return static_cast<int>(m_actions.size()); }
     int selected() const { return m_selected; }
@@ -38,9 +41,19 @@ class RadioMatrix final : public Control {
             action();
     }
 
+    bool canBeEmptied() const { return m_emptying == Emptying::byUser; }
+
+    /// A click with the Command or Ctrl key on the cell that is on: no cell is on then. Nothing
+    /// happens in a matrix that can't be emptied, nor in a disabled or hidden one.
+    void pressOff() {
+        if (canBeEmptied() && isEnabled() && !isHidden())
+            change(m_selected, -1);
+    }
+
   private:
     std::vector<std::function<void()>> m_actions;
     int m_selected;
+    Emptying m_emptying;
 };
 
 } // namespace controls

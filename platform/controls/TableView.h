@@ -37,9 +37,12 @@ class TableView final : public Control {
     /// Everything that the data source says may be different now. A selected row that is no longer
     /// there is deselected. Always notifies.
     void reloadData() {
-        if (m_selected >= rows())
+        const bool isLost = m_selected >= rows();
+        if (isLost)
             m_selected = -1;
         changed();
+        if (const auto action = m_didChange; isLost && action)
+            action();
     }
 
     /// The selected row, -1 for none.

@@ -13,6 +13,7 @@ namespace {
 
 // Attributes of users live in the "user." part of the name space; behind it the name is Apple's.
 constexpr const char* kAttribute = "user.com.apple.FinderInfo";
+constexpr const char* kForkAttribute = "user.com.apple.ResourceFork";
 
 std::optional<FinderBytes> readAttribute(const std::string& path) {
     FinderBytes value;
@@ -20,6 +21,16 @@ std::optional<FinderBytes> readAttribute(const std::string& path) {
     if (length != static_cast<ssize_t>(value.size()))
         return std::nullopt;
     return value;
+}
+
+std::vector<std::byte> readFork(const std::string& path) {
+    const ssize_t expected = ::lgetxattr(path.c_str(), kForkAttribute, nullptr, 0);
+    if (expected <= 0)
+        return {};
+    std::vector<std::byte> fork(static_cast<std::size_t>(expected));
+    const ssize_t length = ::lgetxattr(path.c_str(), kForkAttribute, fork.data(), fork.size());
+    fork.resize(length > 0 ? static_cast<std::size_t>(length) : 0);
+    return fork;
 }
 
 int writeAttribute(const std::string& path, const FinderBytes& value) {
@@ -40,6 +51,7 @@ std::int64_t creationTime(const std::string& path) {
 
 FinderFileCalls finderFileCalls() {
     return {.readAttribute = readAttribute,
+            .readFork = readFork,
             .writeAttribute = writeAttribute,
             .creationTime = creationTime};
 }

@@ -1,35 +1,58 @@
 #include "platform/linux/InstalledBundles.h"
 
-#include <algorithm>
+#include <cstdint>
 #include <filesystem>
+#include <iterator>
+#include <map>
 #include <system_error>
+
+#include "cp/FileStamp.h"
 
 namespace linuxhost {
 
-namespace fs = std::filesystem;
+using Corvaldine::CP::FolderWalk;
 
-std::vector<std::string> installedBundles(const std::string& folder) {
-    std::vector<std::string> bundles;
-    std::vector<fs::path> pending{folder};
-    while (!pending.empty()) {
-        const fs::path current = std::move(pending.back());
-        pending.pop_back();
-        std::error_code error;
-        for (fs::directory_iterator at(current, error), end; !error && at != end;
-             at.increment(error)) {
-            // The folder tells the kind of its entries; only a link costs a look at its target.
-            std::error_code gone;
-            const fs::path extension = at->path().extension();
-            if (extension == ".app") {
-                if (at->is_directory(gone))
-                    bundles.push_back(at->path().native());
-            } else if (extension != ".bundle" && !at->is_symlink(gone) && at->is_directory(gone)) {
-                pending.push_back(at->path());
-            }
-        }
+namespace {
+
+bool isLink(const std::string& path) {
+    std::error_code error;
+    return std::filesystem::is_symlink(path, error);
+}
+
+} // namespace
+
+InstalledBundles::InstalledBundles(const std::vector<std::string>& folders) {
+    for (const std::string& folder : folders)
+        m_walks.emplace_back(
+            folder, FolderWalk([](std::string_view name) { return name.ends_with(".app"); },
+                               FolderWalk::Memory::folders));
+}
+
+std::vector<std::string> InstalledBundles::paths() {
+    std::vector<std::string> all;
+    for (auto& [folder, walk] : m_walks)
+        std::ranges::move(walk.find(folder), std::back_inserter(all));
+    return all;
+}
+
+std::vector<std::string> eachOnce(const std::vector<std::string>& bundles) {
+    std::map<std::pair<std::uint64_t, std::uint64_t>, std::size_t> chosen;
+    for (std::size_t i = 0; i < bundles.size(); ++i) {
+        const auto stamp = Corvaldine::CP::stamp_of(bundles[i]);
+        if (!stamp)
+            continue;
+        const auto [entry, isNew] = chosen.try_emplace({stamp->device, stamp->inode}, i);
+        if (!isNew && isLink(bundles[entry->second]) && !isLink(bundles[i]))
+            entry->second = i;
     }
-    std::ranges::sort(bundles);
-    return bundles;
+    std::vector<bool> stays(bundles.size());
+    for (const auto& [bundle, index] : chosen)
+        stays[index] = true;
+    std::vector<std::string> once;
+    for (std::size_t i = 0; i < bundles.size(); ++i)
+        if (stays[i])
+            once.push_back(bundles[i]);
+    return once;
 }
 
 } // namespace linuxhost

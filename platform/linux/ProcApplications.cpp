@@ -2,11 +2,11 @@
 
 #include <charconv>
 #include <fcntl.h>
+#include <filesystem>
 #include <system_error>
 #include <unistd.h>
 #include <utility>
 
-#include "platform/linux/InstalledBundles.h"
 #include "platform/linux/ProcessBundle.h"
 #include "platform/posix/ChildProcess.h"
 
@@ -29,12 +29,18 @@ bool isProcess(std::string_view name) {
     return error == std::errc() && end == name.data() + name.size() && pid != ::getpid();
 }
 
+std::vector<std::string> applicationFolders(const std::string& root, const std::string& home) {
+    std::vector<std::string> folders{root + "/Applications"};
+    if (!home.empty() && home != root && home != "/")
+        folders.push_back(home + "/Applications");
+    return folders;
+}
+
 } // namespace
 
-ProcApplications::ProcApplications(Needs needs) : m_needs(std::move(needs)) {
-    m_applicationFolders.push_back(m_needs.root + "/Applications");
-    if (!m_needs.home.empty() && m_needs.home != m_needs.root && m_needs.home != "/")
-        m_applicationFolders.push_back(m_needs.home + "/Applications");
+ProcApplications::ProcApplications(Needs needs)
+    : m_needs(std::move(needs)), m_identifiers(m_needs.bundles),
+      m_installed(applicationFolders(m_needs.root, m_needs.home)) {
     if (!m_needs.root.empty())
         m_needs.root = resolved(m_needs.root);
 }
@@ -43,35 +49,25 @@ bool ProcApplications::isBelowRoot(const std::string& bundle) const {
     return m_needs.root.empty() || resolved(bundle).starts_with(m_needs.root + "/");
 }
 
-const std::optional<std::string>& ProcApplications::identifierOf(const std::string& bundle) {
-    std::error_code error;
-    const auto written = fs::last_write_time(bundle + "/Contents/Info.plist", error);
-    auto [entry, isNew] = m_known.try_emplace(bundle);
-    Known& known = entry->second;
-    if (isNew || error || known.written != written)
-        known = {written, m_needs.bundles.infoString(bundle, "CFBundleIdentifier")};
-    return known.identifier;
-}
-
 bool ProcApplications::isRunning(std::string_view bundleIdentifier) {
     std::error_code error;
     for (fs::directory_iterator at("/proc", error), end; !error && at != end; at.increment(error)) {
         if (!isProcess(at->path().filename().native()))
             continue;
         const std::string bundle = bundleOfProcess(at->path().native());
-        if (!bundle.empty() && isBelowRoot(bundle) && identifierOf(bundle) == bundleIdentifier)
+        if (!bundle.empty() && isBelowRoot(bundle) &&
+            m_identifiers.identifierOf(bundle) == bundleIdentifier)
             return true;
     }
     return false;
 }
 
 std::vector<std::string> ProcApplications::pathsFor(std::string_view bundleIdentifier) {
-    std::vector<std::string> paths;
-    for (const std::string& folder : m_applicationFolders)
-        for (std::string& bundle : installedBundles(folder))
-            if (identifierOf(bundle) == bundleIdentifier)
-                paths.push_back(std::move(bundle));
-    return paths;
+    std::vector<std::string> paths = m_installed.paths();
+    std::erase_if(paths, [&](const std::string& bundle) {
+        return m_identifiers.identifierOf(bundle) != bundleIdentifier;
+    });
+    return eachOnce(paths);
 }
 
 bool ProcApplications::launch(const std::string& path) {

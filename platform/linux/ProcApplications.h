@@ -3,12 +3,11 @@
 // "Contents/MacOS". Made by the composition root; main thread only.
 #pragma once
 
-#include <filesystem>
-#include <map>
-#include <optional>
 #include <string>
 #include <vector>
 
+#include "platform/linux/BundleIdentifiers.h"
+#include "platform/linux/InstalledBundles.h"
 #include "platform/ports/Applications.h"
 #include "platform/ports/Bundles.h"
 
@@ -31,7 +30,8 @@ class ProcApplications final : public ports::Applications {
     bool isRunning(std::string_view bundleIdentifier) override;
 
     /// Knows the bundles below "/Applications" under the root, sorted, and after them those below
-    /// "Applications" in the home folder. Never throws.
+    /// "Applications" in the home folder, as they are at that moment. A bundle that links lead to
+    /// is named once, by its own path where that is among them. Never throws.
     std::vector<std::string> pathsFor(std::string_view bundleIdentifier) override;
 
     /// Starts the bundle's "CFBundleExecutable", or without one the file named as the bundle is.
@@ -41,17 +41,11 @@ class ProcApplications final : public ports::Applications {
     bool launch(const std::string& path) override;
 
   private:
-    struct Known {
-        std::filesystem::file_time_type written;
-        std::optional<std::string> identifier;
-    };
-
     bool isBelowRoot(const std::string& bundle) const;
-    const std::optional<std::string>& identifierOf(const std::string& bundle);
 
     Needs m_needs;
-    std::vector<std::string> m_applicationFolders;
-    std::map<std::string, Known> m_known;
+    BundleIdentifiers m_identifiers;
+    InstalledBundles m_installed;
 };
 
 } // namespace linuxhost

@@ -9,6 +9,7 @@
 #include <functional>
 #include <optional>
 #include <string>
+#include <vector>
 
 namespace posix {
 
@@ -20,7 +21,12 @@ struct FinderFileCalls {
     /// another length. A symbolic link is the item itself.
     std::function<std::optional<FinderBytes>(const std::string& path)> readAttribute;
 
-    /// Sets that attribute in one step. 0 or an errno value. Never follows a symbolic link.
+    /// The item's resource fork from its extended attribute; empty when it has none or it can't be
+    /// read. A symbolic link is the item itself.
+    std::function<std::vector<std::byte>(const std::string& path)> readFork;
+
+    /// Sets the Finder information's attribute in one step. 0 or an errno value. Never follows a
+    /// symbolic link.
     std::function<int(const std::string& path, const FinderBytes& value)> writeAttribute;
 
     /// When the item was made, in seconds since 1970; where the file system doesn't keep that, the

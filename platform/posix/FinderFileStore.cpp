@@ -218,6 +218,8 @@ std::vector<std::byte> FinderFileStore::resourceFork(const std::string& path) {
     const auto real = resolved(path);
     if (!real)
         return {};
+    if (Bytes fork = m_calls.readFork(*real); !fork.empty())
+        return fork;
     Kept found = kept(*real);
     return found.beside ? std::move(found.beside->resourceFork) : Bytes();
 }

@@ -1,6 +1,6 @@
 // Finder information, classic aliases and folder icons for systems without resource forks, kept the
 // way macOS keeps them on foreign volumes: in AppleDouble files ("._name" beside "name") and in the
-// extended attribute of the Finder information. The composition root makes one.
+// extended attributes of the Finder information and of the fork. The composition root makes one.
 //
 // Where something is kept: the attribute counts before the AppleDouble file. A change goes to
 // wherever the information is kept already (both, if so), else into the attribute, else, where the
@@ -27,7 +27,8 @@ class FinderFileStore final : public ports::FinderFiles {
     int resolve(const std::string& path) override;
     ReadInformation finderInformation(const std::string& path) override;
 
-    /// From the AppleDouble file.
+    /// From the attribute "com.apple.ResourceFork", where a copy by other means may have put it,
+    /// else from the AppleDouble file.
     std::vector<std::byte> resourceFork(const std::string& path) override;
 
     /// The volume is the file system that holds the target; its name is the last part of its mount

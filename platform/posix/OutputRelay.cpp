@@ -3,6 +3,7 @@
 #include <array>
 #include <cerrno>
 #include <csignal>
+#include <string>
 #include <string_view>
 #include <thread>
 
@@ -63,22 +64,35 @@ class ToTheEnd {
 
 } // namespace
 
-int OutputRelay::relay(ChildProcess& child, const std::function<void(int)>& reader) {
-    m_fromChild.writing.close();
+/// Calls `reader`, while a thread of its own fills the pipe that it reads.
+void OutputRelay::read(const std::function<void(int)>& reader, const std::function<void()>& fill) {
     std::thread pump;
     {
         const SignalsBlocked blocked;
-        pump = std::thread([this, &child] {
-            std::array streams{
-                ChildStream{std::move(m_fromChild.reading),
-                            [this](std::string_view bytes) { pass(m_toReader.writing, bytes); }}};
-            waitTakingIn(child, streams);
+        pump = std::thread([this, &fill] {
+            fill();
             m_toReader.writing.close();
         });
     }
-    {
-        const ToTheEnd toTheEnd(m_toReader.reading, pump);
-        reader(m_toReader.reading.number());
+    const ToTheEnd toTheEnd(m_toReader.reading, pump);
+    reader(m_toReader.reading.number());
+}
+
+int OutputRelay::relay(ChildProcess& child, const std::function<void(int)>& reader,
+                       const std::function<void()>& meanwhile) {
+    m_fromChild.writing.close();
+    std::string kept;
+    std::array streams{ChildStream{std::move(m_fromChild.reading), [&](std::string_view bytes) {
+                                       if (meanwhile)
+                                           kept += bytes;
+                                       else
+                                           pass(m_toReader.writing, bytes);
+                                   }}};
+    if (meanwhile) {
+        waitTakingIn(child, streams, meanwhile);
+        read(reader, [&] { pass(m_toReader.writing, kept); });
+    } else {
+        read(reader, [&] { waitTakingIn(child, streams); });
     }
     return child.wait();
 }

@@ -25,9 +25,15 @@ class OutputRelay {
     /// After the child was started: calls `reader` on this thread with the reading end, then waits
     /// for the child. Answers as `ChildProcess::wait` does. Output that `reader` leaves unread is
     /// thrown away, and the child goes on undisturbed. Once for each object.
-    int relay(ChildProcess& child, const std::function<void(int)>& reader);
+    ///
+    /// With `meanwhile`, which is called on this thread as `waitTakingIn` does, the output is kept
+    /// until the child has ended, and `reader` is called then: it would hold the thread up.
+    int relay(ChildProcess& child, const std::function<void(int)>& reader,
+              const std::function<void()>& meanwhile = nullptr);
 
   private:
+    void read(const std::function<void(int)>& reader, const std::function<void()>& fill);
+
     Pipe m_fromChild;
     Pipe m_toReader;
 };

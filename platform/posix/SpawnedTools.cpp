@@ -94,7 +94,7 @@ int SpawnedTools::runThroughPipe(const ports::ToolCall& call,
                                    .arguments = call.arguments,
                                    .output = relay.childsEnd(),
                                    .error = relay.childsEnd()});
-    return error == 0 ? relay.relay(child, reader) : kCannotStart;
+    return error == 0 ? relay.relay(child, reader, m_needs.whileWaiting) : kCannotStart;
 }
 
 } // namespace posix

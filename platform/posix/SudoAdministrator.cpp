@@ -2,12 +2,27 @@
 
 #include <utility>
 
+#include <grp.h>
+
 #include "platform/ports/Tools.h"
 #include "platform/posix/ChildProcess.h"
+#include "platform/posix/ChildStreams.h"
 #include "platform/posix/OutputRelay.h"
 #include "platform/posix/ToolResolver.h"
 
 namespace posix {
+
+namespace {
+
+/// The group of the administrators has the number 0; its name of BSD's is not known everywhere.
+std::vector<std::string> withKnownGroup(std::vector<std::string> arguments) {
+    for (std::string& argument : arguments)
+        if (argument == "root:wheel" && ::getgrnam("wheel") == nullptr)
+            argument = "root:0";
+    return arguments;
+}
+
+} // namespace
 
 int SudoAdministrator::runSudo(std::vector<std::string> arguments) const {
     ChildSetUp setUp{
@@ -15,7 +30,8 @@ int SudoAdministrator::runSudo(std::vector<std::string> arguments) const {
     if (!m_needs.askpass.empty())
         setUp.environment.push_back("SUDO_ASKPASS=" + m_needs.askpass);
     ChildProcess child;
-    return child.start(setUp) == 0 ? child.wait() : ports::Tools::kCannotStart;
+    return child.start(setUp) == 0 ? waitTakingIn(child, {}, m_needs.whileWaiting)
+                                   : ports::Tools::kCannotStart;
 }
 
 int SudoAdministrator::createSession() {
@@ -44,7 +60,7 @@ int SudoAdministrator::start(const ports::ToolCall& call, const std::function<vo
         return kToolExecuteFailure;
     ChildProcess child;
     OutputRelay relay;
-    ChildSetUp setUp{.program = tool.path, .arguments = call.arguments};
+    ChildSetUp setUp{.program = tool.path, .arguments = withKnownGroup(call.arguments)};
     setUp.output = relay.childsEnd();
     if (!m_needs.isRoot) {
         setUp.program = m_needs.sudo;
@@ -52,7 +68,7 @@ int SudoAdministrator::start(const ports::ToolCall& call, const std::function<vo
     }
     if (!relay.isOpen() || child.start(setUp) != 0)
         return kToolExecuteFailure;
-    relay.relay(child, reader);
+    relay.relay(child, reader, m_needs.whileWaiting);
     return 0;
 }
 

@@ -22,6 +22,8 @@ class SudoAdministrator final : public ports::Administrator {
         /// sudo(8)); empty: sudo asks on the terminal.
         std::string askpass = {};
         std::string sudo = "/usr/bin/sudo";
+        /// See SpawnedTools; also called while the user is asked for the password.
+        std::function<void()> whileWaiting = nullptr;
         bool isRoot = ::geteuid() == 0;
     };
 
@@ -35,7 +37,8 @@ class SudoAdministrator final : public ports::Administrator {
     int requestRights() override;
     /// Besides the tool's standard output nothing is in the pipe; its standard error is the
     /// program's. kDenied without rights, kToolExecuteFailure when the tool can't be started.
-    /// The call is over when the tool has ended.
+    /// The call is over when the tool has ended. A host without a group "wheel" has the group with
+    /// the number 0 in its place.
     int start(const ports::ToolCall& call, const std::function<void(int)>& reader) override;
     /// Has sudo forget that it asked.
     void freeSession() override;

@@ -121,6 +121,19 @@
 <message><source>Chooses another startup folder for the selected copy</source><translation>يختار مجلد بدء تشغيل آخر للنسخة المحدَّدة</translation></message>
 <message><source>Reset</source><translation>إعادة التعيين</translation></message>
 <message><source>Forgets the folder that you chose for the selected copy</source><translation>يتجاهل المجلد الذي اخترته للنسخة المحدَّدة</translation></message>
+<message><source>Select your Microsoft Word startup folder</source><translation>حدّد مجلد بدء تشغيل Microsoft Word</translation></message>
+<message><source>Please locate your installed copy of Microsoft Word</source><translation>يُرجى تحديد موقع نسخة Microsoft Word المثبّتة لديك</translation></message>
+<message><source>If you have configured Word to use a different Startup Folder, Or you are using a non-English Language version of Word, Click 'Set' to set the Startup Folder location.</source><translation>إذا كنت قد أعددت Word لاستخدام مجلد بدء تشغيل آخر، أو كنت تستخدم نسخة من Word بلغة غير الإنجليزية، فانقر على «تعيين» لتعيين موقع مجلد بدء التشغيل.</translation></message>
+<message><source>Set</source><translation>تعيين</translation></message>
+<message><source>The item you picked does not seem to be in a Microsoft Word installation directory.  Please try again.</source><translation>يبدو أن العنصر الذي اخترته ليس في مجلد تثبيت Microsoft Word.  يُرجى المحاولة مرة أخرى.</translation></message>
+<message><source>Uninstall Penmark components from the selected folder, immediately?</source><translation>هل تريد إلغاء تثبيت مكوّنات Penmark من المجلد المحدد فورًا؟</translation></message>
+<message><source>Uninstall</source><translation>إلغاء التثبيت</translation></message>
+<message><source>The %@ could not find Microsoft Word 2016 nor 2019 installed on this computer.</source><translation>%@: لم يُعثر على Microsoft Word 2016 ولا 2019 على هذا الكمبيوتر.</translation></message>
+<message><source>The %@ will install the Penmark add-in for the instance of Microsoft Word 2016 or 2019 installed on this computer.</source><translation>%@: ستُثبَّت وظيفة Penmark الإضافية لنسخة Microsoft Word 2016 أو 2019 المثبّتة على هذا الكمبيوتر.</translation></message>
+<message><source>The %@ will install the Penmark add-in for the %d instances of Microsoft Word 2016 or 2019 installed on this computer.</source><translation>%@: ستُثبَّت وظيفة Penmark الإضافية لعدد %d من نسخ Microsoft Word 2016 أو 2019 المثبّتة على هذا الكمبيوتر.</translation></message>
+<message><source>Word Locations…</source><translation>مواقع Word…</translation></message>
+<message><source>Shows where each copy of Word gets the add-in, and lets you add or change a place</source><translation>يعرض موضع الوظيفة الإضافية لكل نسخة من Word، ويتيح إضافة موقع أو تغييره</translation></message>
+<message><source>Goes back to the components</source><translation>يعود إلى المكوّنات</translation></message>
 <message><source>Penmark is the add-in of Scrivel for Microsoft Word. While you write, it inserts citations from your library and builds the bibliography in the style that you choose.</source><translation>تُعد Penmark وظيفة Scrivel الإضافية لـ Microsoft Word. أثناء الكتابة، تُدرج الاستشهادات من مكتبتك وتُنشئ قائمة المراجع بالنمط الذي تختاره.</translation></message>
 <message><source>What to do with Penmark</source><translation>الإجراء المطلوب مع Penmark</translation></message>
 <message><source>Install Penmark</source><translation>تثبيت Penmark</translation></message>

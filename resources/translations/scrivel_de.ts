@@ -121,6 +121,19 @@
 <message><source>Chooses another startup folder for the selected copy</source><translation>Wählt einen anderen Startordner für die ausgewählte Kopie</translation></message>
 <message><source>Reset</source><translation>Zurücksetzen</translation></message>
 <message><source>Forgets the folder that you chose for the selected copy</source><translation>Vergisst den Ordner, den Sie für die ausgewählte Kopie gewählt haben</translation></message>
+<message><source>Select your Microsoft Word startup folder</source><translation>Wählen Sie Ihren Startordner von Microsoft Word</translation></message>
+<message><source>Please locate your installed copy of Microsoft Word</source><translation>Bitte wählen Sie Ihre installierte Kopie von Microsoft Word</translation></message>
+<message><source>If you have configured Word to use a different Startup Folder, Or you are using a non-English Language version of Word, Click 'Set' to set the Startup Folder location.</source><translation>Wenn Sie Word so eingestellt haben, dass es einen anderen Startordner verwendet, oder wenn Sie Word in einer anderen Sprache als Englisch verwenden, klicken Sie auf „Festlegen“, um den Ort des Startordners festzulegen.</translation></message>
+<message><source>Set</source><translation>Festlegen</translation></message>
+<message><source>The item you picked does not seem to be in a Microsoft Word installation directory.  Please try again.</source><translation>Das ausgewählte Objekt liegt anscheinend nicht in einem Installationsordner von Microsoft Word.  Bitte versuchen Sie es noch einmal.</translation></message>
+<message><source>Uninstall Penmark components from the selected folder, immediately?</source><translation>Die Penmark-Komponenten jetzt sofort aus dem ausgewählten Ordner deinstallieren?</translation></message>
+<message><source>Uninstall</source><translation>Deinstallieren</translation></message>
+<message><source>The %@ could not find Microsoft Word 2016 nor 2019 installed on this computer.</source><translation>%@: Auf diesem Computer wurde weder Microsoft Word 2016 noch 2019 gefunden.</translation></message>
+<message><source>The %@ will install the Penmark add-in for the instance of Microsoft Word 2016 or 2019 installed on this computer.</source><translation>%@: Das Add-in Penmark wird für die auf diesem Computer installierte Kopie von Microsoft Word 2016 oder 2019 installiert.</translation></message>
+<message><source>The %@ will install the Penmark add-in for the %d instances of Microsoft Word 2016 or 2019 installed on this computer.</source><translation>%@: Das Add-in Penmark wird für die %d auf diesem Computer installierten Kopien von Microsoft Word 2016 oder 2019 installiert.</translation></message>
+<message><source>Word Locations…</source><translation>Word-Orte …</translation></message>
+<message><source>Shows where each copy of Word gets the add-in, and lets you add or change a place</source><translation>Zeigt, wo jede Kopie von Word das Add-in erhält; Orte können hinzugefügt und geändert werden</translation></message>
+<message><source>Goes back to the components</source><translation>Führt zurück zu den Komponenten</translation></message>
 <message><source>Penmark is the add-in of Scrivel for Microsoft Word. While you write, it inserts citations from your library and builds the bibliography in the style that you choose.</source><translation>Penmark ist das Add-in von Scrivel für Microsoft Word. Beim Schreiben fügt es Zitate aus Ihrer Bibliothek ein und erstellt das Literaturverzeichnis in dem Stil, den Sie wählen.</translation></message>
 <message><source>What to do with Penmark</source><translation>Was mit Penmark geschehen soll</translation></message>
 <message><source>Install Penmark</source><translation>Penmark installieren</translation></message>

@@ -121,6 +121,19 @@
 <message><source>Chooses another startup folder for the selected copy</source><translation>Chooses another startup folder for the selected copy</translation></message>
 <message><source>Reset</source><translation>Reset</translation></message>
 <message><source>Forgets the folder that you chose for the selected copy</source><translation>Forgets the folder that you chose for the selected copy</translation></message>
+<message><source>Select your Microsoft Word startup folder</source><translation>Select your Microsoft Word startup folder</translation></message>
+<message><source>Please locate your installed copy of Microsoft Word</source><translation>Please locate your installed copy of Microsoft Word</translation></message>
+<message><source>If you have configured Word to use a different Startup Folder, Or you are using a non-English Language version of Word, Click 'Set' to set the Startup Folder location.</source><translation>If you have configured Word to use a different Startup Folder, Or you are using a non-English Language version of Word, Click 'Set' to set the Startup Folder location.</translation></message>
+<message><source>Set</source><translation>Set</translation></message>
+<message><source>The item you picked does not seem to be in a Microsoft Word installation directory.  Please try again.</source><translation>The item you picked does not seem to be in a Microsoft Word installation directory.  Please try again.</translation></message>
+<message><source>Uninstall Penmark components from the selected folder, immediately?</source><translation>Uninstall Penmark components from the selected folder, immediately?</translation></message>
+<message><source>Uninstall</source><translation>Uninstall</translation></message>
+<message><source>The %@ could not find Microsoft Word 2016 nor 2019 installed on this computer.</source><translation>The %@ could not find Microsoft Word 2016 nor 2019 installed on this computer.</translation></message>
+<message><source>The %@ will install the Penmark add-in for the instance of Microsoft Word 2016 or 2019 installed on this computer.</source><translation>The %@ will install the Penmark add-in for the instance of Microsoft Word 2016 or 2019 installed on this computer.</translation></message>
+<message><source>The %@ will install the Penmark add-in for the %d instances of Microsoft Word 2016 or 2019 installed on this computer.</source><translation>The %@ will install the Penmark add-in for the %d instances of Microsoft Word 2016 or 2019 installed on this computer.</translation></message>
+<message><source>Word Locations…</source><translation>Word Locations…</translation></message>
+<message><source>Shows where each copy of Word gets the add-in, and lets you add or change a place</source><translation>Shows where each copy of Word gets the add-in, and lets you add or change a place</translation></message>
+<message><source>Goes back to the components</source><translation>Goes back to the components</translation></message>
 <message><source>Penmark is the add-in of Scrivel for Microsoft Word. While you write, it inserts citations from your library and builds the bibliography in the style that you choose.</source><translation>Penmark is the add-in of Scrivel for Microsoft Word. While you write, it inserts citations from your library and builds the bibliography in the style that you choose.</translation></message>
 <message><source>What to do with Penmark</source><translation>What to do with Penmark</translation></message>
 <message><source>Install Penmark</source><translation>Install Penmark</translation></message>

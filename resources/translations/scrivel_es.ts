@@ -121,6 +121,19 @@
 <message><source>Chooses another startup folder for the selected copy</source><translation>Elige otra carpeta de inicio para la copia seleccionada</translation></message>
 <message><source>Reset</source><translation>Restablecer</translation></message>
 <message><source>Forgets the folder that you chose for the selected copy</source><translation>Olvida la carpeta que eligió para la copia seleccionada</translation></message>
+<message><source>Select your Microsoft Word startup folder</source><translation>Seleccione su carpeta de inicio de Microsoft Word</translation></message>
+<message><source>Please locate your installed copy of Microsoft Word</source><translation>Indique dónde está su copia instalada de Microsoft Word</translation></message>
+<message><source>If you have configured Word to use a different Startup Folder, Or you are using a non-English Language version of Word, Click 'Set' to set the Startup Folder location.</source><translation>Si ha configurado Word para usar otra carpeta de inicio, o si usa una versión de Word en un idioma distinto del inglés, haga clic en Definir para indicar la ubicación de la carpeta de inicio.</translation></message>
+<message><source>Set</source><translation>Definir</translation></message>
+<message><source>The item you picked does not seem to be in a Microsoft Word installation directory.  Please try again.</source><translation>El elemento elegido no parece estar en una carpeta de instalación de Microsoft Word.  Inténtelo de nuevo.</translation></message>
+<message><source>Uninstall Penmark components from the selected folder, immediately?</source><translation>¿Desinstalar inmediatamente los componentes de Penmark de la carpeta seleccionada?</translation></message>
+<message><source>Uninstall</source><translation>Desinstalar</translation></message>
+<message><source>The %@ could not find Microsoft Word 2016 nor 2019 installed on this computer.</source><translation>%@: no se ha encontrado Microsoft Word 2016 ni 2019 en este equipo.</translation></message>
+<message><source>The %@ will install the Penmark add-in for the instance of Microsoft Word 2016 or 2019 installed on this computer.</source><translation>%@: el complemento Penmark se instalará para la copia de Microsoft Word 2016 o 2019 de este equipo.</translation></message>
+<message><source>The %@ will install the Penmark add-in for the %d instances of Microsoft Word 2016 or 2019 installed on this computer.</source><translation>%@: el complemento Penmark se instalará para las %d copias de Microsoft Word 2016 o 2019 de este equipo.</translation></message>
+<message><source>Word Locations…</source><translation>Ubicaciones de Word…</translation></message>
+<message><source>Shows where each copy of Word gets the add-in, and lets you add or change a place</source><translation>Muestra dónde recibe el complemento cada copia de Word y permite añadir o cambiar una ubicación</translation></message>
+<message><source>Goes back to the components</source><translation>Vuelve a los componentes</translation></message>
 <message><source>Penmark is the add-in of Scrivel for Microsoft Word. While you write, it inserts citations from your library and builds the bibliography in the style that you choose.</source><translation>Penmark es el complemento de Scrivel para Microsoft Word. Mientras escribe, inserta citas de su biblioteca y crea la bibliografía en el estilo que usted elija.</translation></message>
 <message><source>What to do with Penmark</source><translation>Qué hacer con Penmark</translation></message>
 <message><source>Install Penmark</source><translation>Instalar Penmark</translation></message>

@@ -121,6 +121,19 @@
 <message><source>Chooses another startup folder for the selected copy</source><translation>Choisit un autre dossier de démarrage pour la copie sélectionnée</translation></message>
 <message><source>Reset</source><translation>Réinitialiser</translation></message>
 <message><source>Forgets the folder that you chose for the selected copy</source><translation>Oublie le dossier que vous avez choisi pour la copie sélectionnée</translation></message>
+<message><source>Select your Microsoft Word startup folder</source><translation>Sélectionnez votre dossier de démarrage de Microsoft Word</translation></message>
+<message><source>Please locate your installed copy of Microsoft Word</source><translation>Veuillez indiquer où se trouve votre copie installée de Microsoft Word</translation></message>
+<message><source>If you have configured Word to use a different Startup Folder, Or you are using a non-English Language version of Word, Click 'Set' to set the Startup Folder location.</source><translation>Si vous avez configuré Word pour utiliser un autre dossier de démarrage, ou si vous utilisez une version de Word dans une autre langue que l’anglais, cliquez sur Définir pour indiquer l’emplacement du dossier de démarrage.</translation></message>
+<message><source>Set</source><translation>Définir</translation></message>
+<message><source>The item you picked does not seem to be in a Microsoft Word installation directory.  Please try again.</source><translation>L’élément choisi ne semble pas se trouver dans un dossier d’installation de Microsoft Word.  Veuillez réessayer.</translation></message>
+<message><source>Uninstall Penmark components from the selected folder, immediately?</source><translation>Désinstaller immédiatement les composants Penmark du dossier sélectionné ?</translation></message>
+<message><source>Uninstall</source><translation>Désinstaller</translation></message>
+<message><source>The %@ could not find Microsoft Word 2016 nor 2019 installed on this computer.</source><translation>%@ : ni Microsoft Word 2016 ni Microsoft Word 2019 n’a été trouvé sur cet ordinateur.</translation></message>
+<message><source>The %@ will install the Penmark add-in for the instance of Microsoft Word 2016 or 2019 installed on this computer.</source><translation>%@ : le complément Penmark sera installé pour la copie de Microsoft Word 2016 ou 2019 qui se trouve sur cet ordinateur.</translation></message>
+<message><source>The %@ will install the Penmark add-in for the %d instances of Microsoft Word 2016 or 2019 installed on this computer.</source><translation>%@ : le complément Penmark sera installé pour les %d copies de Microsoft Word 2016 ou 2019 qui se trouvent sur cet ordinateur.</translation></message>
+<message><source>Word Locations…</source><translation>Emplacements de Word…</translation></message>
+<message><source>Shows where each copy of Word gets the add-in, and lets you add or change a place</source><translation>Montre où chaque copie de Word reçoit le complément et permet d’ajouter ou de modifier un emplacement</translation></message>
+<message><source>Goes back to the components</source><translation>Revient aux composants</translation></message>
 <message><source>Penmark is the add-in of Scrivel for Microsoft Word. While you write, it inserts citations from your library and builds the bibliography in the style that you choose.</source><translation>Penmark est le complément de Scrivel pour Microsoft Word. Pendant que vous écrivez, il insère des citations de votre bibliothèque et compose la bibliographie dans le style de votre choix.</translation></message>
 <message><source>What to do with Penmark</source><translation>Que faire de Penmark</translation></message>
 <message><source>Install Penmark</source><translation>Installer Penmark</translation></message>

@@ -121,6 +121,19 @@
 <message><source>Chooses another startup folder for the selected copy</source><translation>選択したコピーに別のスタートアップフォルダを選択します</translation></message>
 <message><source>Reset</source><translation>リセット</translation></message>
 <message><source>Forgets the folder that you chose for the selected copy</source><translation>選択したコピーに指定したフォルダを取り消します</translation></message>
+<message><source>Select your Microsoft Word startup folder</source><translation>Microsoft Wordのスタートアップフォルダを選択してください</translation></message>
+<message><source>Please locate your installed copy of Microsoft Word</source><translation>インストールされているMicrosoft Wordを選択してください</translation></message>
+<message><source>If you have configured Word to use a different Startup Folder, Or you are using a non-English Language version of Word, Click 'Set' to set the Startup Folder location.</source><translation>Wordで別のスタートアップフォルダを使うように設定している場合、または英語版以外のWordを使っている場合は、［設定］をクリックしてスタートアップフォルダの場所を設定してください。</translation></message>
+<message><source>Set</source><translation>設定</translation></message>
+<message><source>The item you picked does not seem to be in a Microsoft Word installation directory.  Please try again.</source><translation>選択した項目は、Microsoft Wordのインストールフォルダにないようです。もう一度選択してください。</translation></message>
+<message><source>Uninstall Penmark components from the selected folder, immediately?</source><translation>選択したフォルダからPenmarkコンポーネントを今すぐアンインストールしますか？</translation></message>
+<message><source>Uninstall</source><translation>アンインストール</translation></message>
+<message><source>The %@ could not find Microsoft Word 2016 nor 2019 installed on this computer.</source><translation>%@：このコンピュータにMicrosoft Word 2016または2019は見つかりませんでした。</translation></message>
+<message><source>The %@ will install the Penmark add-in for the instance of Microsoft Word 2016 or 2019 installed on this computer.</source><translation>%@：このコンピュータにあるMicrosoft Word 2016または2019に、Penmarkアドインをインストールします。</translation></message>
+<message><source>The %@ will install the Penmark add-in for the %d instances of Microsoft Word 2016 or 2019 installed on this computer.</source><translation>%@：このコンピュータにある%d個のMicrosoft Word 2016または2019に、Penmarkアドインをインストールします。</translation></message>
+<message><source>Word Locations…</source><translation>Wordの場所…</translation></message>
+<message><source>Shows where each copy of Word gets the add-in, and lets you add or change a place</source><translation>各Wordのアドインの場所を表示し、場所を追加または変更できます</translation></message>
+<message><source>Goes back to the components</source><translation>コンポーネントの選択に戻ります</translation></message>
 <message><source>Penmark is the add-in of Scrivel for Microsoft Word. While you write, it inserts citations from your library and builds the bibliography in the style that you choose.</source><translation>Penmarkは、Microsoft Word用のScrivelアドインです。文章を書きながら、ライブラリから引用を挿入し、選択したスタイルで参考文献リストを作成します。</translation></message>
 <message><source>What to do with Penmark</source><translation>Penmarkに対する操作</translation></message>
 <message><source>Install Penmark</source><translation>Penmarkをインストール</translation></message>

@@ -121,6 +121,19 @@
 <message><source>Chooses another startup folder for the selected copy</source><translation>为所选副本选取其他启动文件夹</translation></message>
 <message><source>Reset</source><translation>还原</translation></message>
 <message><source>Forgets the folder that you chose for the selected copy</source><translation>不再记住您为所选副本选取的文件夹</translation></message>
+<message><source>Select your Microsoft Word startup folder</source><translation>选择您的 Microsoft Word 启动文件夹</translation></message>
+<message><source>Please locate your installed copy of Microsoft Word</source><translation>请找到已安装的 Microsoft Word 副本</translation></message>
+<message><source>If you have configured Word to use a different Startup Folder, Or you are using a non-English Language version of Word, Click 'Set' to set the Startup Folder location.</source><translation>如果您已将 Word 设定为使用其他启动文件夹，或者您使用的是非英文版 Word，请点按“设定”来设定启动文件夹的位置。</translation></message>
+<message><source>Set</source><translation>设定</translation></message>
+<message><source>The item you picked does not seem to be in a Microsoft Word installation directory.  Please try again.</source><translation>您选取的项目似乎不在 Microsoft Word 的安装文件夹中。请重试。</translation></message>
+<message><source>Uninstall Penmark components from the selected folder, immediately?</source><translation>要立即从所选文件夹中卸载 Penmark 组件吗？</translation></message>
+<message><source>Uninstall</source><translation>卸载</translation></message>
+<message><source>The %@ could not find Microsoft Word 2016 nor 2019 installed on this computer.</source><translation>%@：未在此电脑上找到 Microsoft Word 2016 或 2019。</translation></message>
+<message><source>The %@ will install the Penmark add-in for the instance of Microsoft Word 2016 or 2019 installed on this computer.</source><translation>%@：将为此电脑上安装的 Microsoft Word 2016 或 2019 安装 Penmark 加载项。</translation></message>
+<message><source>The %@ will install the Penmark add-in for the %d instances of Microsoft Word 2016 or 2019 installed on this computer.</source><translation>%@：将为此电脑上安装的 %d 个 Microsoft Word 2016 或 2019 副本安装 Penmark 加载项。</translation></message>
+<message><source>Word Locations…</source><translation>Word 位置…</translation></message>
+<message><source>Shows where each copy of Word gets the add-in, and lets you add or change a place</source><translation>显示每个 Word 副本的加载项位置，并可添加或更改位置</translation></message>
+<message><source>Goes back to the components</source><translation>返回组件选择</translation></message>
 <message><source>Penmark is the add-in of Scrivel for Microsoft Word. While you write, it inserts citations from your library and builds the bibliography in the style that you choose.</source><translation>Penmark 是 Scrivel 用于 Microsoft Word 的加载项。在您写作时，它会从您的文献库中插入引文，并以您选取的样式生成参考文献列表。</translation></message>
 <message><source>What to do with Penmark</source><translation>对 Penmark 执行的操作</translation></message>
 <message><source>Install Penmark</source><translation>安装 Penmark</translation></message>

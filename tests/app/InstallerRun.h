@@ -6,7 +6,6 @@
 #include <cstdlib>
 #include <filesystem>
 #include <fstream>
-#include <map>
 #include <sstream>
 #include <string>
 #include <vector>
@@ -15,27 +14,12 @@
 #include <nlohmann/json.hpp>
 
 #include "platform/posix/SpawnedTools.h"
-#include "tests/support/TemporaryFolder.h"
+#include "tests/support/TreeOf.h"
 
 namespace tests {
 
 namespace fs = std::filesystem;
 using Json = nlohmann::json;
-
-/// Every item below `top` with what tells two trees apart.
-inline std::map<std::string, std::string> treeOf(const fs::path& top) {
-    std::map<std::string, std::string> tree;
-    for (const auto& item : fs::recursive_directory_iterator(top)) {
-        const auto status = item.symlink_status();
-        std::string what = std::to_string(static_cast<int>(status.permissions()) & 0777);
-        if (item.is_symlink())
-            what = "-> " + fs::read_symlink(item).string();
-        else if (item.is_regular_file())
-            what += " " + contentsOf(item);
-        tree[fs::relative(item.path(), top).string()] = what;
-    }
-    return tree;
-}
 
 class InstallerRun : public testing::Test {
   protected:
@@ -119,8 +103,9 @@ class InstallerRun : public testing::Test {
         constexpr std::size_t kDate = sizeof "2001-02-03 04:05:06 +0000 " - 1;
         std::vector<std::string> lines;
         std::istringstream text(contentsOf(log()));
+        // a message of several lines has its date on the first alone
         for (std::string line; std::getline(text, line);)
-            lines.push_back(line.substr(kDate));
+            lines.push_back(line.find(" +0000 ") == kDate - 7 ? line.substr(kDate) : line);
         return lines;
     }
 

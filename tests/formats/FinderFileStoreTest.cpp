@@ -64,6 +64,7 @@ class FinderFileStoreTest : public ::testing::Test {
 
     tests::TemporaryFolder folder;
     std::map<std::string, FinderBytes> attributes;
+    std::map<std::string, Bytes> forks;
     int refusal = 0;
     FinderFileStore store{
         {.calls = {.readAttribute = [this](const std::string& path) -> std::optional<FinderBytes> {
@@ -72,6 +73,7 @@ class FinderFileStoreTest : public ::testing::Test {
                            return std::nullopt;
                        return found->second;
                    },
+                   .readFork = [this](const std::string& path) { return forks[path]; },
                    .writeAttribute =
                        [this](const std::string& path, const FinderBytes& value) {
                            if (refusal == 0)
@@ -218,6 +220,19 @@ TEST_F(FinderFileStoreTest, AResourceForkIsThatOfTheAppleDoubleFile) {
     EXPECT_EQ(store.resourceFork(file("a")), fork);
     std::filesystem::create_symlink("a", folder.path("link"));
     EXPECT_EQ(store.resourceFork(folder.path("link")), fork);
+}
+
+TEST_F(FinderFileStoreTest, AResourceForkInTheAttributeCountsBeforeThatOfTheAppleDoubleFile) {
+    AppleDouble beside;
+    beside.resourceFork = hex("11");
+    file("._a", formats::writeAppleDouble(beside));
+    const std::string path = file("a");
+    forks[path] = hex("22");
+    EXPECT_EQ(store.resourceFork(path), hex("22"));
+    std::filesystem::create_symlink("a", folder.path("link"));
+    EXPECT_EQ(store.resourceFork(folder.path("link")), hex("22"));
+    forks[path] = {};
+    EXPECT_EQ(store.resourceFork(path), hex("11"));
 }
 
 TEST_F(FinderFileStoreTest, WhereThereIsNoForkItIsEmpty) {

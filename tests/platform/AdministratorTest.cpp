@@ -1,11 +1,13 @@
 #include <array>
 #include <cerrno>
 #include <filesystem>
+#include <grp.h>
 #include <gtest/gtest.h>
 #include <memory>
 #include <string>
 #include <sys/wait.h>
 #include <unistd.h>
+#include <utility>
 
 #include "platform/posix/DecidedAdministrator.h"
 #include "platform/posix/FileTextStreams.h"
@@ -176,6 +178,30 @@ TEST_F(SudoTest, AMissingSudoIsToldApartFromARefusal) {
     EXPECT_EQ(lacking.createSession(), 0);
     EXPECT_EQ(lacking.requestRights(), Administrator::kToolExecuteFailure);
     EXPECT_EQ(lacking.start(toolThatPrints("x"), ignore), Administrator::kDenied);
+}
+
+TEST_F(SudoTest, WhoeverWaitsIsCalledWhileTheUserIsAskedAndWhileAToolRunsAndLosesNoOutput) {
+    int called = 0;
+    SudoAdministrator waiting(
+        {.sudo = folder.path("sudo"), .whileWaiting = [&] { ++called; }, .isRoot = false});
+    ASSERT_EQ(waiting.requestRights(), 0);
+    EXPECT_GT(std::exchange(called, 0), 0);
+    std::string output;
+    EXPECT_EQ(waiting.start({"/bin/sh", {"-c", "echo one; sleep 0.1; echo two"}},
+                            [&](int end) { output = readAll(streams, end); }),
+              0);
+    EXPECT_EQ(output, "one\ntwo\n");
+    EXPECT_GT(called, 2);
+}
+
+TEST_F(SudoTest, AGroupNamedWheelIsTheGroupWithTheNumberNoughtWhereItHasNoName) {
+    SudoAdministrator root({.sudo = folder.path("sudo"), .isRoot = true});
+    ASSERT_EQ(root.requestRights(), 0);
+    std::string output;
+    EXPECT_EQ(root.start({"/bin/echo", {"root:wheel", "wheel"}},
+                         [&](int end) { output = readAll(streams, end); }),
+              0);
+    EXPECT_EQ(output, ::getgrnam("wheel") ? "root:wheel wheel\n" : "root:0 wheel\n");
 }
 
 TEST_F(SudoTest, RootIsNeverAskedAndSudoNeverCalled) {

@@ -2,6 +2,9 @@
 #include <string>
 #include <vector>
 
+#include <set>
+#include <utility>
+
 #include <gmock/gmock.h>
 #include <gtest/gtest.h>
 
@@ -12,9 +15,9 @@ namespace {
 
 using ec::ecItem;
 using ec::ecRules;
-using testing::AnyOf;
 using testing::ElementsAre;
 using testing::Optional;
+using testing::UnorderedElementsAre;
 
 class ShippedRules : public testing::Test {
   protected:
@@ -29,13 +32,18 @@ TEST_F(ShippedRules, ShowExactlyTheseComponents) {
     for (const ec::Component& component : outline.components())
         lines.push_back((component.group ? "  " : "") + std::string(component.name) + " " +
                         std::string(rules.getItemMethod(component.item).value_or("-")));
-    EXPECT_THAT(lines, ElementsAre("Microsoft Word integration -", "  Penmark add-in inst_Word",
-                                   "Content categories inst_allCategories",
-                                   "  Chemistry inst_Category", "  Economics inst_Category",
-                                   "  History inst_Category", "  Law inst_Category",
-                                   "  Medicine inst_Category", "  Physics inst_Category",
-                                   "System integration -", "  Spotlight importer inst_Spotlight",
-                                   "  Services inst_Services", "Browser extension inst_Tessaron"));
+    EXPECT_THAT(lines,
+                ElementsAre("Microsoft Word integration -", "  Penmark add-in inst_Word",
+                            "Content categories inst_allCategories", "  Chemistry inst_Category",
+                            "  Economics inst_Category", "  History inst_Category",
+                            "  Law inst_Category", "  Medicine inst_Category",
+                            "  Physics inst_Category", "Output styles inst_allCategories",
+                            "  Engineering inst_Category", "  Humanities inst_Category",
+                            "  Sciences inst_Category", "System integration -",
+                            "  Spotlight importer inst_Spotlight", "  Services inst_Services",
+                            "Browser extension inst_Tessaron", "More on this disk -",
+                            "  Read Me.txt inst_File", "  Examples inst_Dir",
+                            "  Uninstaller inst_Uninst", "  Handheld link inst_Handheld"));
 }
 
 TEST_F(ShippedRules, HaveNoItemsThatAreNotShownButTheEmptyLastLine) {
@@ -43,13 +51,15 @@ TEST_F(ShippedRules, HaveNoItemsThatAreNotShownButTheEmptyLastLine) {
     EXPECT_EQ(rules.getItemName(rules.count() - 1), "");
 }
 
-TEST_F(ShippedRules, NameOnlyMethodsThatExist) {
+TEST_F(ShippedRules, NameEveryMethodThatExistsAndOneThatIsYetToCome) {
+    std::set<std::string_view> methods;
     for (const ec::Component& component : outline.components())
-        EXPECT_THAT(rules.getItemMethod(component.item).value_or("none"),
-                    AnyOf("none", "inst_File", "inst_Dir", "inst_Word", "inst_Services",
-                          "inst_Spotlight", "inst_Tessaron", "inst_Uninst", "inst_Category",
-                          "inst_allCategories"))
-            << component.name;
+        if (const auto method = rules.getItemMethod(component.item))
+            methods.insert(*method);
+    EXPECT_THAT(methods,
+                UnorderedElementsAre("inst_File", "inst_Dir", "inst_Word", "inst_Services",
+                                     "inst_Spotlight", "inst_Tessaron", "inst_Uninst",
+                                     "inst_Category", "inst_allCategories", "inst_Handheld"));
 }
 
 TEST_F(ShippedRules, GiveEachMemberAMethodAndEachComponentADescription) {
@@ -60,12 +70,16 @@ TEST_F(ShippedRules, GiveEachMemberAMethodAndEachComponentADescription) {
 }
 
 TEST_F(ShippedRules, GiveTheCategoriesFoldersInTheFolderOfThemAll) {
-    const auto all = outline.find("Content categories");
-    ASSERT_NE(all.item, nullptr);
-    EXPECT_THAT(rules.getItemFiles(all.item->itemNum()), Optional(ElementsAre("Filters")));
-    for (const auto& member : all.item->children())
-        EXPECT_THAT(rules.getItemFiles(member->itemNum()),
-                    Optional(ElementsAre("Filters/" + std::string(*member->getItemName()))));
+    for (const auto& [group, folder] :
+         {std::pair("Content categories", "Filters"), std::pair("Output styles", "Styles")}) {
+        const auto all = outline.find(group);
+        ASSERT_NE(all.item, nullptr);
+        EXPECT_THAT(rules.getItemFiles(all.item->itemNum()), Optional(ElementsAre(folder)));
+        for (const auto& member : all.item->children())
+            EXPECT_THAT(rules.getItemFiles(member->itemNum()),
+                        Optional(ElementsAre(std::string(folder) + "/" +
+                                             std::string(*member->getItemName()))));
+    }
 }
 
 TEST_F(ShippedRules, GiveEachComponentANameOfItsOwn) {

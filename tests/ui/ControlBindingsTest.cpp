@@ -10,6 +10,7 @@
 #include <QPushButton>
 #include <QRadioButton>
 #include <QStackedWidget>
+#include <QStyledItemDelegate>
 #include <QTableView>
 #include <QTest>
 #include <QTextBlock>
@@ -388,6 +389,21 @@ TEST_F(ControlBindings, TellAssistiveToolsTheTablesCells) {
     auto* cell = table->tableInterface()->cellAt(1, 0);
     ASSERT_NE(cell, nullptr);
     EXPECT_EQ(cell->text(QAccessible::Name), "/Old/Word.app");
+}
+
+TEST_F(ControlBindings, SelectRowsAndKeepPathsInOrderInARightToLeftLanguage) {
+    QApplication::setLayoutDirection(Qt::RightToLeft);
+    models.pages.select(2);
+    QApplication::processEvents();
+    auto& table = at<QTableView>("table");
+    models.table.selectRow(1);
+    const auto selected = table.selectionModel()->selectedRows();
+    const QString shown = qobject_cast<QStyledItemDelegate*>(table.itemDelegate())
+                              ->displayText("/Old/Word.app", QLocale());
+    QApplication::setLayoutDirection(Qt::LeftToRight);
+    ASSERT_EQ(selected.size(), 1);
+    EXPECT_EQ(selected.first().row(), 1);
+    EXPECT_EQ(shown, QStringLiteral(u"\u2066/Old/Word.app\u2069"));
 }
 
 TEST_F(ControlBindings, MirrorInARightToLeftLanguage) {

@@ -91,6 +91,8 @@ class Walk final : private controls::Control::Observer {
                 return button->click();
         fail(std::string("no sheet has a button ") + name);
     }
+    /// The page of work is in sight without any.
+    void pretendToWork(bool pretends) { m_pretendsToWork = pretends; }
     bool succeeded() const { return !m_failed && m_deeds.empty() && m_taken > 0; }
 
   private:
@@ -98,8 +100,14 @@ class Walk final : private controls::Control::Observer {
         std::fprintf(stderr, "renderWizard: %s\n", why.c_str());
         m_failed = true;
     }
+    /// Nobody can do anything while the wizard works, but the window lives on.
+    bool isAtWork() const {
+        return !m_pretendsToWork && wizard.progress.isRunning() && !wizard.nextBtn.isEnabled();
+    }
     void later() {
         QTimer::singleShot(kBetweenDeeds, qApp, [this] {
+            if (isAtWork())
+                return later();
             if (m_deeds.empty())
                 return wizard.window.orderOut();
             const Deed deed = std::move(m_deeds.front());
@@ -123,6 +131,7 @@ class Walk final : private controls::Control::Observer {
     QString m_pictures;
     QString m_suffix;
     bool m_failed = false;
+    bool m_pretendsToWork = false;
 };
 
 void take(Walk& walk) {
@@ -204,27 +213,16 @@ void closePanel(Walk& walk) {
         }
 }
 
-/// Copies of Word as the page of locations lists them.
-class Copies final : public controls::TableDataSource {
-  public:
-    int numberOfRowsInTableView() override { return 2; }
-    std::string tableViewObjectValue(std::string_view column, int row) override {
-        if (column == "wordversion")
-            return row == 0 ? "16.30" : "15.41";
-        if (column == "startupPath")
-            return row == 0 ? "/Library/Application Support/Microsoft/Office365/User "
-                              "Content.localized/Startup.localized/Word"
-                            : "/Users/Shared/Word Startup";
-        return row == 0 ? "/Applications/Microsoft Word.app"
-                        : "/Applications/Office 2016/Microsoft Word.app";
-    }
-};
+void showLocations(Walk& walk) {
+    walk.wizard.locationsBtn.press();
+    walk.wizard.acTbl.selectRow(0);
+}
+void hideLocations(Walk& walk) {
+    walk.wizard.acDoneBtn.press();
+}
 
 /// What a run on a machine with all of it would say.
 void fillPages(Walk& walk) {
-    static Copies copies;
-    walk.wizard.acTbl.setDataSource(&copies);
-    walk.wizard.acTbl.reloadData();
     walk.wizard.patchFound.setText("/Applications/Scrivel 21/Scrivel 21.app");
     walk.wizard.processingText.setText("Processing: Penmark add-in");
     using Result = ec::ComponentOutcome::Result;
@@ -238,12 +236,14 @@ void fillPages(Walk& walk) {
          .reason = ec::OutcomeReason{"Administrator rights were refused."}}};
 }
 void work(Walk& walk) {
+    walk.pretendToWork(true);
     walk.wizard.runSelector("disableButtons");
     walk.wizard.nextBtn.setEnabled(false);
     walk.wizard.progress.startAnimation();
 }
 
 void rest(Walk& walk) {
+    walk.pretendToWork(false);
     walk.wizard.nextBtn.setEnabled(true);
 }
 
@@ -267,6 +267,9 @@ const std::array kWays{
         [] {
             return Deeds{chooseComponents,
                          take,
+                         showLocations,
+                         take,
+                         hideLocations,
                          askForUninstall,
                          answerNo,
                          readHelp,
@@ -302,9 +305,9 @@ const std::array kWays{
         [] {
             Deeds deeds{fillPages};
             deeds.insert(deeds.end(), {show(10), work, take, rest});
-            for (const int page : {7, 9, 11, 12, 16, 17, 18, 23, 25, 27, 28})
+            for (const int page : {7, 9, 11, 12, 16, 17, 18, 23, 27, 28})
                 deeds.insert(deeds.end(), {show(page), take});
-            deeds.insert(deeds.end(), {show(25), openPanel, closePanel});
+            deeds.insert(deeds.end(), {show(23), openPanel, closePanel});
             return deeds;
         }},
 };

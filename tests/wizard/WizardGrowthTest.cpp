@@ -52,6 +52,8 @@ struct WizardGrowthTest : testing::Test, tests::WizardStage {
         host.texts.lookedUp = {};
         host.streams.appended = {};
         host.streams.files = {};
+        host.tools.calls = {};
+        host.administrator.calls = {};
         host.applications.asked = {};
         host.interfaceFiles.loaded = {};
         host.reader.matters = {};

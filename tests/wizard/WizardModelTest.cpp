@@ -5,6 +5,7 @@
 #include <array>
 #include <cstdlib>
 #include <deque>
+#include <filesystem>
 #include <iostream>
 #include <random>
 #include <set>
@@ -31,11 +32,17 @@ constexpr std::array kActionNames{
     "disableBackOnly",
     "disableButtons",
     "disableButtonsInPatch",
+    "doACReset",
+    "doACchange",
+    "doACminus",
+    "doACplus",
     "doAgreeChange",
+    "doAltPMRK",
     "doCheckForWord",
     "doChoose",
     "doCustExit",
     "doExit",
+    "doFoundMSWord",
     "doGoCustom",
     "doNextState",
     "doPatchNo",
@@ -47,6 +54,7 @@ constexpr std::array kActionNames{
     "doUninstallExit",
     "enableButtons",
     "findTheScrivels",
+    "hideWordLocations",
     "initialInstall",
     "installAppLogo",
     "installCheck",
@@ -64,6 +72,7 @@ constexpr std::array kActionNames{
     "setNext",
     "showHelp",
     "showLog",
+    "showWordLocations",
     "skipToAltPMRK",
     "skipToNextState",
     "skipToPrevState",
@@ -86,8 +95,11 @@ const std::set<int> kSummaryPages{7, 8, 11, 17, 27, 28};
 /// seen enough of it.
 class RandomUser {
   public:
-    RandomUser(std::mt19937_64& dice, long& stepsLeft) : m_dice(dice), m_stepsLeft(stepsLeft) {
+    RandomUser(std::mt19937_64& dice, long& stepsLeft, const tests::TemporaryFolder& disk)
+        : m_dice(dice), m_stepsLeft(stepsLeft), m_disk(disk) {
         m_stage.host.modalLoop.idle = [this] { return turn(); };
+        m_stage.host.bundles.strings[{m_disk.path("Word.app"), "CFBundleShortVersionString"}] =
+            "16.1";
     }
 
     void openOnce() {
@@ -144,6 +156,8 @@ class RandomUser {
         m_stage.host.applications.asked.clear();
         m_stage.host.systemLog.lines.clear();
         m_stage.host.propertyLists.written.clear();
+        m_stage.host.fileChoosers.asked.clear();
+        m_stage.host.tools.calls.clear();
     }
 
     /// What happens while the wizard, or a question of it, waits.
@@ -213,7 +227,8 @@ class RandomUser {
             m_stage.host.applications.running.clear();
             wizard.agreeBtns.press(0);
             wizard.matSVWInstall.press(0);
-            note("Word quits, agree, install, Next");
+            wizard.acDoneBtn.press();
+            note("Word quits, agree, install, Done, Next");
             EXPECT_LT(m_turns, m_turnsOfThisOpening + 16) << "no end in sight\n" << history();
             EXPECT_TRUE(wizard.nextBtn.isEnabled()) << history();
             wizard.nextBtn.press();
@@ -266,6 +281,8 @@ class RandomUser {
         case 6:
             if (chance(10))
                 press("uninstall", wizard.uninstallBtn);
+            else if (chance(10))
+                press("locations", wizard.locationsBtn);
             else
                 toggleSomething();
             return true;
@@ -273,9 +290,11 @@ class RandomUser {
             pressRow("spotBtns", wizard.spotBtns);
             pressRow("servBtns", wizard.servBtns);
             return true;
-        case 23:
         case 25:
-            pressSomethingOfTheLocations();
+            if (chance(30))
+                press("done", wizard.acDoneBtn);
+            else
+                pressSomethingOfTheLocations();
             return true;
         case 26:
             pressRow("matSVWInstall", wizard.matSVWInstall);
@@ -292,10 +311,22 @@ class RandomUser {
     void pressSomethingOfTheLocations() {
         Controller& wizard = m_stage.controller;
         note("press something of the locations");
+        m_stage.host.fileChoosers.answers.clear();
+        if (chance(80))
+            m_stage.host.fileChoosers.answers = {m_disk.path("Word.app"), m_disk.path("Startup")};
         wizard.acTbl.selectRow(static_cast<int>(below(4)) - 1);
         controls::Button* const buttons[]{&wizard.acPlus, &wizard.acMinusBtn, &wizard.acChange,
                                           &wizard.acResetBtn};
         buttons[below(4)]->press();
+        checkLocations();
+    }
+    void checkLocations() {
+        const Controller& wizard = m_stage.controller;
+        const bool selected = wizard.acTbl.selectedRow() >= 0;
+        EXPECT_EQ(wizard.acChange.isEnabled(), selected) << history();
+        EXPECT_TRUE(selected || !wizard.acMinusBtn.isEnabled()) << history();
+        EXPECT_EQ(wizard.acMinusBtn.isEnabled(), wizard.acResetBtn.isEnabled()) << history();
+        EXPECT_LE(wizard.acTbl.rows(), 1) << history();
     }
     /// As a check would.
     void makeSomethingUnavailable() {
@@ -401,7 +432,12 @@ class RandomUser {
                     wizard.isFinished())
             << "the user can neither go on nor leave\n"
             << history();
-        EXPECT_TRUE(page == row.page || page == 12 || row.page == -1) << history();
+        const bool atLocations = page == 25;
+        EXPECT_TRUE(page == row.page || page == 12 || row.page == -1 ||
+                    (atLocations && row.page == 6))
+            << history();
+        EXPECT_EQ(wizard.nextBtn.isHidden(), atLocations) << history();
+        EXPECT_EQ(wizard.backBtn.isHidden(), atLocations) << history();
         // A finished wizard that is shown again stands past its last row, whose page is none.
         const bool pastItsLastRow = wizard.isFinished() && row.isTerminator();
         EXPECT_TRUE((page == 12) == (wizard.nextBtn.title() == "Retry") || pastItsLastRow)
@@ -413,14 +449,14 @@ class RandomUser {
         EXPECT_FALSE(!m_mayActByName && wizard.custProgress.isRunning()) << history();
         EXPECT_FALSE(!m_mayActByName && wizard.progress.isRunning()) << history();
         EXPECT_EQ(wizard.uninstallBtn.isHidden(),
-                  wizard.secretIdentity() != "Customizer_Customizer")
+                  wizard.secretIdentity() != "Customizer_Customizer" || atLocations)
             << history();
         if (page == 5)
             EXPECT_EQ(wizard.nextBtn.isEnabled(), wizard.agreeBtns.isOn(0)) << history();
         else
             EXPECT_TRUE(wizard.nextBtn.isEnabled()) << history();
-        const auto* title =
-            std::ranges::find(ec::gInstallStateLabels, row.page, &ec::PageTitle::page);
+        const auto* title = std::ranges::find(ec::gInstallStateLabels,
+                                              atLocations ? page : row.page, &ec::PageTitle::page);
         EXPECT_EQ(wizard.titleText.text(), title == ec::gInstallStateLabels.end()
                                                ? std::string_view()
                                                : title->title.english())
@@ -429,6 +465,7 @@ class RandomUser {
 
     std::mt19937_64& m_dice;
     long& m_stepsLeft;
+    const tests::TemporaryFolder& m_disk; ///< with a Word on it
     WizardStage m_stage;
     std::deque<std::string> m_history;
     bool m_mayActByName = chance(50);
@@ -450,8 +487,11 @@ TEST(WizardModel, WhateverTheUserDoesTheWizardStaysSoundAndCanBeLeft) {
     long stepsLeft = fromEnvironment("SCRIVEL_MODEL_STEPS", 100'000);
     std::cout << "SCRIVEL_MODEL_SEED=" << seed << " SCRIVEL_MODEL_STEPS=" << stepsLeft << '\n';
     std::mt19937_64 dice(seed);
+    const tests::TemporaryFolder disk;
+    for (const auto* made : {"Word.app", "Office", "Startup"})
+        std::filesystem::create_directory(disk.path(made));
     while (stepsLeft > 0 && !HasFailure()) {
-        RandomUser user(dice, stepsLeft);
+        RandomUser user(dice, stepsLeft, disk);
         for (int opening = 0; opening < 50 && stepsLeft > 0 && !user.hasEnded(); ++opening)
             user.openOnce();
     }

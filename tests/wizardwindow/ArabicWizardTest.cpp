@@ -72,4 +72,18 @@ TEST_F(ArabicWizard, AsksWithTheDefaultAnswerAtTheLeft) {
                              key(Qt::Key_Escape)});
 }
 
+TEST_F(ArabicWizard, ShowsTheLocationsWithDoneAtTheLeft) {
+    walk(modes::kCustomize, {[] {
+                                 tabTo("locationsBtn");
+                                 press(Qt::Key_Space);
+                             },
+                             page(25),
+                             [] {
+                                 EXPECT_GT(left("acPlus"), left("acMinusBtn"));
+                                 EXPECT_GT(left("acResetBtn"), left("acDoneBtn"));
+                                 press(Qt::Key_Return);
+                             },
+                             page(6), key(Qt::Key_Escape)});
+}
+
 } // namespace

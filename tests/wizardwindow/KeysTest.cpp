@@ -15,7 +15,7 @@ using testing::EndsWith;
 using tests::WizardMode;
 namespace modes = tests::modes;
 
-constexpr std::uint32_t kGroup = 2, kMember = 3, kSpotlight = 10, kServices = 11;
+constexpr std::uint32_t kGroup = 2, kMember = 3, kSpotlight = 14, kServices = 15;
 
 struct WizardKeys : tests::WizardWindow {
     /// Page after page, each looked at, Return on each.

@@ -2,6 +2,8 @@
 
 #include <algorithm>
 
+#include <QGuiApplication>
+
 #include "ui/bind/FirstState.h"
 
 namespace ui {
@@ -11,11 +13,16 @@ RadioBinding::RadioBinding(controls::RadioMatrix& matrix, QWidget& widget)
     FirstState(widget).giveTo(matrix);
     const auto cells = cellsOf(widget);
     for (int row = 0; row < cells.size(); ++row)
-        // a click, and an arrow key that comes from the next cell
+        // a click, and an arrow key that comes from the next cell; Qt's Control is macOS's Command
         connect(cells[row], &QRadioButton::clicked, this, [this, row] {
             if (!model())
                 return;
-            model()->press(row);
+            const bool off = model()->canBeEmptied() && model()->isOn(row) &&
+                             QGuiApplication::keyboardModifiers().testFlag(Qt::ControlModifier);
+            if (off)
+                model()->pressOff();
+            else
+                model()->press(row);
             if (model())
                 mirror(*model());
         });

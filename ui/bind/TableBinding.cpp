@@ -2,15 +2,33 @@
 
 #include <QHeaderView>
 #include <QItemSelectionModel>
+#include <QStyledItemDelegate>
 
 #include "ui/bind/FirstState.h"
 
 namespace ui {
 
+namespace {
+
+/// Paths run from left to right also where the language does not: else their first slash would
+/// stand behind them.
+class LeftToRight final : public QStyledItemDelegate {
+  public:
+    using QStyledItemDelegate::QStyledItemDelegate;
+
+    QString displayText(const QVariant& value, const QLocale&) const override {
+        constexpr QChar kIsolate(0x2066), kEnd(0x2069);
+        return kIsolate + value.toString() + kEnd;
+    }
+};
+
+} // namespace
+
 TableBinding::TableBinding(controls::TableView& table, QTableView& widget,
                            const ports::LocalizedTexts& texts)
     : Binding(table), m_widget(widget), m_rows(table, Columns::of(widget, &texts)) {
     widget.setModel(&m_rows);
+    widget.setItemDelegate(new LeftToRight(&widget));
     FirstState(widget).giveTo(table);
     widget.setSelectionBehavior(QTableView::SelectRows);
     widget.setSelectionMode(QTableView::SingleSelection);
@@ -49,7 +67,7 @@ void TableBinding::mirror(const controls::TableView& table) {
     if (table.selectedRow() < 0)
         m_widget.clearSelection();
     else if (table.selectedRow() != selectedRow())
-        m_widget.selectRow(table.selectedRow());
+        m_widget.setCurrentIndex(m_rows.index(table.selectedRow(), 0));
     m_mirrors = false;
 }
 

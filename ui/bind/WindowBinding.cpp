@@ -14,11 +14,16 @@ WindowBinding::WindowBinding(controls::Window& window, QDialog& widget)
     : Binding(window), m_widget(widget) {
     window.setTitle(widget.windowTitle().toStdString());
     window.setEnabled(widget.isEnabled());
-    for (QPushButton* button : widget.findChildren<QPushButton*>())
-        if (button->isDefault())
-            m_default = button;
+    for (QPushButton* button : widget.findChildren<QPushButton*>()) {
+        if (button->autoDefault()) {
+            m_defaults.emplace_back(button);
+            button->installEventFilter(this);
+        }
+        if (button->property("takesEscape").toBool())
+            m_escape = button;
+    }
     for (ProgressBar* bar : widget.findChildren<ProgressBar*>()) {
-        connect(bar, &ProgressBar::runningChanged, this, [this] { busyChanged(); });
+        connect(bar, &ProgressBar::runningChanged, this, [this] { chooseDefault(); });
         bar->installEventFilter(this);
     }
     // the one that came last takes the input; those below it wait until it is gone
@@ -55,18 +60,29 @@ bool WindowBinding::isBusy() const {
         [this](const ProgressBar* bar) { return bar->isRunning() && bar->isVisibleTo(&m_widget); });
 }
 
-void WindowBinding::busyChanged() {
-    if (!m_default)
-        return;
-    const bool busy = isBusy();
-    m_default->setAutoDefault(!busy);
-    m_default->setDefault(!busy);
+void WindowBinding::chooseDefault() {
+    bool mayBe = !isBusy();
+    for (const auto& button : m_defaults) {
+        if (!button)
+            continue;
+        const bool is = mayBe && button->isVisibleTo(&m_widget);
+        button->setAutoDefault(is);
+        button->setDefault(is);
+        mayBe = mayBe && !is;
+    }
+}
+
+void WindowBinding::escape() {
+    if (m_escape && m_escape->isVisibleTo(&m_widget))
+        m_escape->click();
+    else
+        model()->performClose();
 }
 
 bool WindowBinding::eventFilter(QObject* watched, QEvent* event) {
-    if (watched != &m_widget) { // a bar
+    if (watched != &m_widget) { // a bar, or a button that may be the default one
         if (event->type() == QEvent::Show || event->type() == QEvent::Hide)
-            busyChanged();
+            chooseDefault();
         return QObject::eventFilter(watched, event);
     }
     if (!model())
@@ -78,9 +94,13 @@ bool WindowBinding::eventFilter(QObject* watched, QEvent* event) {
     }
     if (isHeldReturn(*event))
         return true;
-    if (isEscape(*event) || isCloseKey(*event)) {
-        if (!isBusy() || !isEscape(*event))
-            model()->performClose();
+    if (isCloseKey(*event)) {
+        model()->performClose();
+        return true;
+    }
+    if (isEscape(*event)) {
+        if (!isBusy())
+            escape();
         return true;
     }
     return QObject::eventFilter(watched, event);

@@ -2,6 +2,8 @@
 // from the title bar or from a key; nothing but the model hides the dialog.
 #pragma once
 
+#include <vector>
+
 #include <QDialog>
 #include <QPointer>
 #include <QPushButton>
@@ -11,6 +13,9 @@
 
 namespace ui {
 
+/// Return presses the first button in sight of those that the interface file lets be the default
+/// one ("autoDefault"). Escape presses the button in sight that has the property "takesEscape", and
+/// is the wish to close the window where there is none.
 /// While a progress bar in sight runs, Escape does nothing, and Return no longer presses the
 /// default button: a second press must not cancel what the first one began.
 class WindowBinding final : public QObject, public Binding<controls::Window> {
@@ -27,10 +32,12 @@ class WindowBinding final : public QObject, public Binding<controls::Window> {
 
     void show();
     bool isBusy() const;
-    void busyChanged();
+    void chooseDefault();
+    void escape();
 
     QDialog& m_widget;
-    QPointer<QPushButton> m_default;
+    std::vector<QPointer<QPushButton>> m_defaults; // in the order of the file
+    QPointer<QPushButton> m_escape;
     bool m_placed = false;
 };
 
