@@ -42,8 +42,10 @@ class FakeTextStreams final : public ports::TextStreams {
         std::deque<std::string>& pieces = m_pieces[descriptor];
         while (!pieces.empty() && pieces.front().empty())
             pieces.pop_front();
-        if (pieces.empty())
+        if (pieces.empty()) {
+            m_pieces.erase(descriptor);
             return 0;
+        }
         const std::size_t count = std::min(buffer.size(), pieces.front().size());
         std::copy_n(pieces.front().begin(), count, buffer.begin());
         pieces.front().erase(0, count);
