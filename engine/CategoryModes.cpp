@@ -12,7 +12,7 @@ namespace fs = std::filesystem;
 
 namespace {
 
-/// Beside the application. The two separators are the name as it always was.
+/// Beside the application. Two separators in a row count as one.
 constexpr std::string_view kContentBundle = "Product-Support//Content.bundle";
 constexpr std::string_view kMostPopular = "Most Popular";
 
@@ -20,12 +20,6 @@ constexpr int kMixed = -2;
 
 MethodAnswer truth(bool value) {
     return MethodAnswer::of(value ? 1 : 0);
-}
-
-/// Without the separators at its end, which count for nothing.
-std::string trimmed(std::string path) {
-    path.erase(path.find_last_not_of('/') + 1);
-    return path;
 }
 
 ComponentParts missing(const std::string& source) {
@@ -36,15 +30,15 @@ ComponentParts missing(const std::string& source) {
 
 CategoryModes::Places CategoryModes::placesOf(std::uint32_t itemNum) const {
     const auto paths = m_needs.rules.getItemFiles(itemNum);
-    const std::string path = paths && !paths->empty() ? trimmed(paths->front()) : std::string();
-    if (path.empty()) // the folder of the application itself is nobody's category
+    const std::string path = paths && !paths->empty() ? joinedPath("", paths->front()) : "";
+    if (path.find_first_not_of('/') == std::string::npos) // the folder itself is no category
         throw ports::PlatformError("the rule names no category");
     const std::string folder = fs::path(m_needs.bundles.mainBundle()).parent_path().native();
-    const std::string content = inFolder(folder, std::string(kContentBundle));
-    return {.source = inFolder(content, path),
-            .destination = inFolder(folder, path),
-            .holder = inFolder(folder, fs::path(path).parent_path().native()),
-            .mostPopular = inFolder(inFolder(content, std::string(kMostPopular)), path)};
+    const std::string content = joinedPath(folder, kContentBundle);
+    return {.source = joinedPath(content, path),
+            .destination = joinedPath(folder, path),
+            .holder = joinedPath(folder, fs::path(path).parent_path().native()),
+            .mostPopular = joinedPath(joinedPath(content, kMostPopular), path)};
 }
 
 MethodAnswer CategoryModes::installCategoryMode(OpMode mode, std::uint32_t itemNum, OptionalText,

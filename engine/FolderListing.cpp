@@ -95,6 +95,17 @@ std::string inFolder(const std::string& folder, const std::string& name) {
     return name.empty() ? folder : folder + "/" + name;
 }
 
+std::string joinedPath(std::string_view folder, std::string_view component) {
+    std::string path(folder);
+    if (!component.empty())
+        path.append(path.empty() ? "" : "/").append(component);
+    const auto both = [](char one, char next) { return one == '/' && next == '/'; };
+    path.erase(std::unique(path.begin(), path.end(), both), path.end());
+    if (path.size() > 1 && path.ends_with('/'))
+        path.pop_back();
+    return path;
+}
+
 bool leadsSomewhere(const std::string& path) {
     std::error_code ignored;
     return fs::exists(path, ignored);

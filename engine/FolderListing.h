@@ -3,6 +3,7 @@
 #pragma once
 
 #include <string>
+#include <string_view>
 #include <vector>
 
 namespace ec {
@@ -19,6 +20,10 @@ bool hasEntries(const std::string& folder);
 
 /// The path of the entry `name` in `folder`; a name that is empty gives the folder.
 std::string inFolder(const std::string& folder, const std::string& name);
+
+/// The two joined as the platform joins path components: one separator between any two parts, and
+/// none at the end. An empty component gives the folder; an empty folder, the relative path.
+std::string joinedPath(std::string_view folder, std::string_view component);
 
 /// Does the path lead to something, links followed? And is that a folder?
 bool leadsSomewhere(const std::string& path);

@@ -165,7 +165,7 @@ TEST_F(ComponentsEndToEnd, TheLogOfAChangeReadsLineByLineAsItAlwaysDid) {
                     " Result= Yes",
                     "Installing: Penmark for Microsoft Word: citations and bibliographies in your "
                     "documents Result: Succeeded"));
-    const std::string law = "DISK/Product-Support//Content.bundle/Filters/Law";
+    const std::string law = "DISK/Product-Support/Content.bundle/Filters/Law";
     EXPECT_THAT(
         part("Copy: " + law + " -> DISK/Filters", "Installing: Import filters for law "
                                                   "Result: Failed"),

@@ -60,6 +60,16 @@ TEST_F(FolderListing, AnEmptyNameIsTheFolderItself) {
     EXPECT_EQ(ec::inFolder("/a", ""), "/a");
 }
 
+TEST_F(FolderListing, PathsAreJoinedWithOneSeparatorBetweenTheirParts) {
+    EXPECT_EQ(ec::joinedPath("/a", "b//c"), "/a/b/c");
+    EXPECT_EQ(ec::joinedPath("/a//", "/b/"), "/a/b");
+    EXPECT_EQ(ec::joinedPath("/a", ""), "/a");
+    EXPECT_EQ(ec::joinedPath("", "b//c/"), "b/c");
+    EXPECT_EQ(ec::joinedPath("/", "b"), "/b");
+    EXPECT_EQ(ec::joinedPath("", ""), "");
+    EXPECT_EQ(ec::joinedPath("", "//"), "/");
+}
+
 TEST_F(FolderListing, LinksAreFollowedToWhatTheyLeadTo) {
     EXPECT_TRUE(ec::leadsSomewhere(one + "/link"));
     fs::remove(one + "/file");

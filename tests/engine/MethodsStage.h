@@ -42,7 +42,7 @@ class MethodsStage {
     std::string bundle() const { return host.bundles.bundle; }
     /// In the content bundle, as the log writes it.
     std::string content(const std::string& name) const {
-        return folder.path(kProduct + "Product-Support//Content.bundle/" + name);
+        return folder.path(kProduct + "Product-Support/Content.bundle/" + name);
     }
 
     /// Writes a file of the content: "Filters/Law/one.filter".
