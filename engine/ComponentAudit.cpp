@@ -41,9 +41,11 @@ ComponentAudit::Seen ComponentAudit::look(const Request& request) const {
     Seen seen{.hasCopies = !parts.copies.empty(), .isNotForHere = parts.isNotForHere};
     if (parts.obstacle)
         seen.fault = Fault{std::move(*parts.obstacle)};
-    for (const ComponentParts::Copy& copy : parts.copies)
-        if ((seen.fault = faultOf(copy)))
+    for (const ComponentParts::Copy& copy : parts.copies) {
+        seen.fault = faultOf(copy);
+        if (seen.fault)
             break;
+    }
     seen.isComplete = seen.hasCopies && !seen.fault;
     if (const auto trace = std::ranges::find_if(parts.traces, leadsSomewhere);
         trace != parts.traces.end())

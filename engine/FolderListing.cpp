@@ -25,8 +25,8 @@ bool filesAreEqual(const std::string& one, const std::string& other) {
         return false;
     std::ifstream first(one, std::ios::binary);
     std::ifstream second(other, std::ios::binary);
-    std::array<char, 65536> here;
-    std::array<char, 65536> there;
+    std::array<char, 16384> here{};
+    std::array<char, 16384> there{};
     while (first && second) {
         first.read(here.data(), here.size());
         second.read(there.data(), there.size());
