@@ -95,6 +95,16 @@ class ComponentsRun : public InstallerRun {
         return names;
     }
 
+    /// The lines that the program itself, and none of its tools, wrote to its standard error.
+    static std::vector<std::string> ownErrors(const Result& result) {
+        std::vector<std::string> own;
+        std::istringstream lines(result.error);
+        for (std::string line; std::getline(lines, line);)
+            if (line.starts_with("scrivel-installer: "))
+                own.push_back(line);
+        return own;
+    }
+
     /// With this run's folders named.
     std::string named(std::string text) const {
         for (const auto& [path, name] :
