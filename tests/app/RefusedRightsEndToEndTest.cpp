@@ -56,7 +56,7 @@ struct RefusedRightsEndToEnd : ComponentsRun {
 };
 
 TEST_F(RefusedRightsEndToEnd, EveryInstallingWizardIsAskedOnceAndLosesTheExtensionAlone) {
-    for (const std::string command : {"penmark", "first-install"}) {
+    for (const std::string command : {"penmark", "first-install", "first-install --short"}) {
         const Result result = runAnswering(command, kRefuse, "--yes");
         expectRefused(result, "Browser extension");
         EXPECT_EQ(resultOf(result, "Penmark add-in"),
