@@ -21,6 +21,11 @@ namespace {
 
 constexpr std::string_view kShortVersion = "CFBundleShortVersionString";
 constexpr std::string_view kWordFileName = "Microsoft Word";
+/// The major versions that the host knows Word by, and those of the old single files.
+constexpr int kFirstKnown = 12;
+constexpr int kLastKnown = 99;
+constexpr int kFirstOld = 10;
+constexpr int kLastOld = 11;
 constexpr std::uint32_t kVersionType = formats::fourCharacters("vers");
 constexpr std::int16_t kOwnVersion = 1;
 
@@ -116,15 +121,29 @@ int AppDiscovery::getFileVersion(OptionalText path, std::uint32_t& major, std::u
     return 0;
 }
 
+void AppDiscovery::addApplicationsFor(std::string_view identifier, int fromVer, int toVer,
+                                      Paths& found) const {
+    for (std::string& path : m_needs.applications.pathsFor(identifier))
+        if (exists(kindOf(path)) && isIn(getMajorVersion(path), fromVer, toVer))
+            found.push_back(std::move(path));
+}
+
+void AppDiscovery::addApplicationsNamed(std::string_view name, int fromVer, int toVer,
+                                        Paths& found) const {
+    using Corvaldine::CP::FolderWalk;
+    FolderWalk walk([name](std::string_view item) { return item == name; });
+    for (std::string& path : walk.find(m_needs.session.places.system("/Applications")))
+        if (kindOf(path) == fs::file_type::directory || isIn(getMajorVersion(path), fromVer, toVer))
+            found.push_back(std::move(path));
+}
+
 std::optional<AppDiscovery::Paths>
 AppDiscovery::findApplicationsWithBundleIdentifier(std::string_view identifier, int fromVer,
                                                    int toVer) const {
     m_needs.log.logMessage(formatted("findApplicationsWithBundleIdentifier: %@", {identifier}));
     try {
         Paths found;
-        for (std::string& path : m_needs.applications.pathsFor(identifier))
-            if (exists(kindOf(path)) && isIn(getMajorVersion(path), fromVer, toVer))
-                found.push_back(std::move(path));
+        addApplicationsFor(identifier, fromVer, toVer, found);
         return found.empty() ? std::nullopt : std::optional(std::move(found));
     } catch (const ports::PlatformError&) {
         m_needs.log.logException();
@@ -137,12 +156,7 @@ AppDiscovery::Paths AppDiscovery::findApplication(std::string_view name, int fro
     m_needs.log.logMessage(formatted("findApplication: %@", {name}));
     Paths found;
     try {
-        using Corvaldine::CP::FolderWalk;
-        FolderWalk walk([name](std::string_view item) { return item == name; });
-        for (std::string& path : walk.find(m_needs.session.places.system("/Applications")))
-            if (kindOf(path) == fs::file_type::directory ||
-                isIn(getMajorVersion(path), fromVer, toVer))
-                found.push_back(std::move(path));
+        addApplicationsNamed(name, fromVer, toVer, found);
     } catch (const ports::PlatformError&) {
         m_needs.log.logException();
     }
@@ -153,11 +167,26 @@ const AppDiscovery::Paths& AppDiscovery::wordPaths() {
     if (!m_wordPaths.paths().empty())
         return m_wordPaths.paths();
     addToWordPaths(m_needs.breadcrumbs.wordCrumbs().value_or(Paths()));
-    addToWordPaths(findApplicationsWithBundleIdentifier(kWordIdentifier, 12, 99).value_or(Paths()));
-    addToWordPaths(findApplication(kWordFileName, 10, 11));
+    addToWordPaths(findApplicationsWithBundleIdentifier(kWordIdentifier, kFirstKnown, kLastKnown)
+                       .value_or(Paths()));
+    addToWordPaths(findApplication(kWordFileName, kFirstOld, kLastOld));
     if (!m_wordPaths.paths().empty())
         m_needs.log.logMessage("Determine Word Paths: " + listDescription(m_wordPaths.paths()));
     return m_wordPaths.paths();
+}
+
+AppDiscovery::Paths AppDiscovery::wordPathsUnlogged() const {
+    if (!m_wordPaths.paths().empty())
+        return m_wordPaths.paths();
+    Paths found = m_needs.breadcrumbs.wordCrumbs().value_or(Paths());
+    try {
+        addApplicationsFor(kWordIdentifier, kFirstKnown, kLastKnown, found);
+        addApplicationsNamed(kWordFileName, kFirstOld, kLastOld, found);
+    } catch (const ports::PlatformError&) { // nobody asked for a search; what was found serves
+    }
+    WordPathList list;
+    list.add(found);
+    return list.paths();
 }
 
 } // namespace ec

@@ -83,8 +83,9 @@ class AppDiscovery {
     /// none, and logs what a search found.
     const Paths& wordPaths();
 
-    /// Those that were found before; never searches.
-    const Paths& knownWordPaths() const { return m_wordPaths.paths(); }
+    /// What `wordPaths` would answer, without a line in the log: for a look at what is installed.
+    /// Where nothing was found before it searches, and does not keep what it finds.
+    Paths wordPathsUnlogged() const;
 
     /// `checkWordExists`: is there any?
     bool checkWordExists() { return !wordPaths().empty(); }
@@ -102,6 +103,11 @@ class AppDiscovery {
     std::string getUserCompany() const { return {}; }
 
   private:
+    /// The searches themselves; `found` has what was found before a failure of the host raises.
+    void addApplicationsFor(std::string_view identifier, int fromVer, int toVer,
+                            Paths& found) const;
+    void addApplicationsNamed(std::string_view name, int fromVer, int toVer, Paths& found) const;
+
     Needs m_needs;
     WordPathList m_wordPaths;
 };

@@ -117,7 +117,7 @@ std::optional<WordAddIn::AddIn> WordAddIn::addInFor(const std::string& word,
 
 ComponentParts WordAddIn::addInParts() const {
     ComponentParts parts;
-    const auto& words = m_needs.discovery.knownWordPaths();
+    const auto words = m_needs.discovery.wordPathsUnlogged();
     if (words.empty())
         return {.obstacle = OutcomeReason{"No copy of Microsoft Word was found."},
                 .isNotForHere = true};

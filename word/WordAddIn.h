@@ -52,7 +52,7 @@ class WordAddIn {
     MethodAnswer installWordMode(OpMode mode, std::uint32_t itemNum, OptionalText source,
                                  OptionalText dest);
 
-    /// What of the add-in lies where: in the startup folders of the Words that were found before.
+    /// What of the add-in lies where: in the startup folders of every Word.
     ComponentParts addInParts() const;
 
     /// `preparePmrkFolder` unpacks the installer's archive into a temporary folder, adds the

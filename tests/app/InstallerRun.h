@@ -82,13 +82,22 @@ class InstallerRun : public testing::Test {
     fs::path sample() const { return fs::path(SCRIVEL_BUILD) / "sample/Scrivel"; }
     fs::path log() const { return home / "Library/Logs/Scrivel 21 Stub Install.log"; }
 
+    /// From now on the program is an ordinary user's, also where the tests are root's: folders that
+    /// are closed are closed to it. All of the little system belongs to that user.
+    void runAsOrdinaryUser() { m_isOrdinaryUser = true; }
+
     /// Runs with these words after the program's name; root, home and the temporary folder are set.
     Result run(const std::string& words) {
-        const std::string command = "TMPDIR='" + temporary.string() + "' " + environment + " '" +
-                                    (bundle / "Contents/MacOS/Scrivel 21 Installer").string() +
-                                    "' --root '" + root.string() + "' --home '" + home.string() +
-                                    "' " + words + " >'" + (folder / "output").string() + "' 2>'" +
-                                    (folder / "error").string() + "'";
+        std::string user;
+        if (m_isOrdinaryUser && isRoot()) {
+            handOver(folder);
+            user = " setpriv --reuid=" + std::to_string(kNobody) + " --clear-groups";
+        }
+        const std::string command =
+            "TMPDIR='" + temporary.string() + "' " + environment + user + " '" +
+            (bundle / "Contents/MacOS/Scrivel 21 Installer").string() + "' --root '" +
+            root.string() + "' --home '" + home.string() + "' " + words + " >'" +
+            (folder / "output").string() + "' 2>'" + (folder / "error").string() + "'";
         posix::SpawnedTools shell({});
         Result result;
         result.exit = shell.run({"/bin/sh", {"-c", command}});
@@ -139,6 +148,17 @@ class InstallerRun : public testing::Test {
         std::ofstream(tool) << "#!/bin/sh\n" << script << "\n";
         fs::permissions(tool, static_cast<fs::perms>(0755));
     }
+
+  private:
+    static constexpr uid_t kNobody = 65534;
+
+    static void handOver(const fs::path& top) {
+        EXPECT_EQ(::lchown(top.c_str(), kNobody, static_cast<gid_t>(-1)), 0);
+        for (const auto& item : fs::recursive_directory_iterator(top))
+            EXPECT_EQ(::lchown(item.path().c_str(), kNobody, static_cast<gid_t>(-1)), 0);
+    }
+
+    bool m_isOrdinaryUser = false;
 };
 
 } // namespace tests
