@@ -3,7 +3,6 @@
 #pragma once
 
 #include <algorithm>
-#include <unistd.h>
 #include <utility>
 
 #include "tests/app/InstallerRun.h"
@@ -70,8 +69,6 @@ class ComponentsRun : public InstallerRun {
         return runAnswering("customize", answers.empty() ? R"({"authorize": true})" : answers,
                             words);
     }
-    /// As root the rights are there; an ordinary user is refused by the answers file.
-    static bool isRoot() { return ::geteuid() == 0; }
 
     static std::string memberOf(const Result& result, const std::string& name,
                                 const std::string& member) {

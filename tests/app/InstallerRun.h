@@ -12,6 +12,7 @@
 
 #include <gtest/gtest.h>
 #include <nlohmann/json.hpp>
+#include <unistd.h>
 
 #include "platform/posix/SpawnedTools.h"
 #include "tests/support/TreeOf.h"
@@ -68,6 +69,11 @@ class InstallerRun : public testing::Test {
         fs::permissions(root, fs::perms::owner_all, fs::perm_options::add);
         fs::remove_all(folder);
     }
+
+    static bool isRoot() { return ::geteuid() == 0; }
+    /// The exit status of a run that needs administrator rights and leaves it to the host to grant
+    /// them: root has them, and an ordinary user is refused where nobody can be asked.
+    static int exitNeedingRights() { return isRoot() ? 0 : 5; }
 
     fs::path archive() const { return bundle / "Contents/Resources/Scrivel.zip"; }
     fs::path sample() const { return fs::path(SCRIVEL_BUILD) / "sample/Scrivel"; }
