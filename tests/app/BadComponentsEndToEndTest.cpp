@@ -1,8 +1,7 @@
 // The built program's components among broken, hostile and vanishing things: whatever lies there,
 // the run ends clearly, tells what failed in one line, leaves no process and no temporary file, and
 // nothing half-written is told to be installed.
-#include <chrono>
-#include <thread>
+#include <sys/stat.h>
 
 #include <gmock/gmock.h>
 
