@@ -69,6 +69,7 @@ class ComponentsRun : public InstallerRun {
         return runAnswering("customize", answers.empty() ? R"({"authorize": true})" : answers,
                             words);
     }
+
     static std::string memberOf(const Result& result, const std::string& name,
                                 const std::string& member) {
         for (const Json& component : result.of("component"))

@@ -49,8 +49,6 @@ class InstallerRun : public testing::Test {
     };
 
     static bool isRoot() { return ::geteuid() == 0; }
-    /// The exit status of a run that needs administrator rights, and comes to its end without them.
-    static int done() { return isRoot() ? 0 : 5; }
 
     void SetUp() override {
         if (!isRoot()) { // nobody is asked for a password, and nothing belongs to root in the end
@@ -77,6 +75,10 @@ class InstallerRun : public testing::Test {
         fs::permissions(root, fs::perms::owner_all, fs::perm_options::add);
         fs::remove_all(folder);
     }
+
+    /// The exit status of a run that needs administrator rights and leaves it to the host to grant
+    /// them: root has them, and an ordinary user is refused where nobody can be asked.
+    static int exitNeedingRights() { return isRoot() ? 0 : 5; }
 
     fs::path archive() const { return bundle / "Contents/Resources/Scrivel.zip"; }
     fs::path sample() const { return fs::path(SCRIVEL_BUILD) / "sample/Scrivel"; }

@@ -8,12 +8,10 @@
 namespace {
 
 using namespace tests;
-using testing::AllOf;
 using testing::Contains;
 using testing::ElementsAre;
 using testing::HasSubstr;
 using testing::IsEmpty;
-using testing::Not;
 using testing::SizeIs;
 
 const std::string kRefuse = R"({"authorize": false})";

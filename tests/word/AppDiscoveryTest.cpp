@@ -316,6 +316,18 @@ TEST_F(AppDiscoveryTest, TheSearchIsRepeatedOnlyWhileItFindsNothing) {
     EXPECT_EQ(host.logged().size(), 7u);
 }
 
+TEST_F(AppDiscoveryTest, AnUnloggedLookAnswersWhatASearchWouldAndKeepsNothing) {
+    remember({"/C.app|||/S|||16", folder.path("b.APP") + "|||/S|||16"});
+    install({bundle("B.app", "16"), bundle("A.app", "12"), bundle("old.app", "11")});
+    file("Applications/Microsoft Word", {0, 0, 0, 0x10});
+    const Paths looked = discovery->wordPathsUnlogged();
+    EXPECT_THAT(host.logged(), IsEmpty());
+    EXPECT_EQ(looked, discovery->wordPaths());
+    EXPECT_EQ(host.logged().size(), 3u) << "this was the first search";
+    install({bundle("New.app", "16")});
+    EXPECT_EQ(discovery->wordPathsUnlogged(), looked) << "what was found before counts";
+}
+
 TEST_F(AppDiscoveryTest, RecordsWithoutAPathAreAPathOfTheirOwn) {
     remember({"", "|||/S|||16"});
     EXPECT_THAT(discovery->wordPaths(), ElementsAre(""));
