@@ -38,35 +38,32 @@ MethodAnswer BrowserExtension::installTessaronMode(OpMode mode, std::uint32_t, O
     return guarded(m_needs.log, -1, [&] {
         m_needs.log.logInstall("Tessaron Extension", mode);
         bool answer = false;
-        switch (mode) {
-        case OpMode::check:
-            switch (m_needs.session.m_mode) {
-            case launch::kAssumedInstalled:
-            case launch::kPenmark:
-                answer = true;
-                break;
-            case launch::kCustomize:
-                answer = isThere(file());
-                break;
-            default:
-                break;
-            }
-            break;
-        case OpMode::copy:
+        if (mode == OpMode::check)
+            answer = check();
+        else if (mode == OpMode::copy)
             answer = copy();
-            break;
-        case OpMode::remove:
-            remove();
-            answer = !leadsSomewhere(file());
-            break;
-        }
+        else if (mode == OpMode::remove)
+            answer = remove();
         return MethodAnswer::of(answer ? 1 : 0);
     });
 }
 
-void BrowserExtension::remove() {
+bool BrowserExtension::check() const {
+    switch (m_needs.session.m_mode) {
+    case launch::kAssumedInstalled:
+    case launch::kPenmark:
+        return true;
+    case launch::kCustomize:
+        return isThere(file());
+    default:
+        return false;
+    }
+}
+
+bool BrowserExtension::remove() {
     if (isThere(file()))
         (void)m_needs.runner.launchRootApp("/bin/rm", Params{{std::string("-f"), file()}});
+    return !leadsSomewhere(file());
 }
 
 bool BrowserExtension::copy() {

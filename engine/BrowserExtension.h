@@ -51,8 +51,9 @@ class BrowserExtension {
 
   private:
     std::string file() const { return m_needs.session.places.system(gTessaronFile); }
-    void remove();
+    bool check() const;
     bool copy();
+    bool remove();
 
     Needs m_needs;
 };

@@ -5,6 +5,7 @@
 
 #include "engine/FolderListing.h"
 #include "engine/Guarded.h"
+#include "engine/InstallMethods.h"
 #include "wizard/LaunchModes.h"
 
 namespace ec {
@@ -24,9 +25,22 @@ struct LevelChoice {
     controls::RadioMatrix WizardOutlets::* buttons;
 };
 constexpr std::array kChoices{
-    LevelChoice{"inst_Spotlight", &WizardOutlets::spotText, &WizardOutlets::spotBtns},
-    LevelChoice{"inst_Services", &WizardOutlets::servText, &WizardOutlets::servBtns},
+    LevelChoice{method::kSpotlight.name, &WizardOutlets::spotText, &WizardOutlets::spotBtns},
+    LevelChoice{method::kServices.name, &WizardOutlets::servText, &WizardOutlets::servBtns},
 };
+
+/// What is copied to the levels that are on, and removed from both.
+ComponentParts partsAt(const std::string& shipped, const std::string& user,
+                       const std::string& system, const controls::RadioMatrix& levels) {
+    ComponentParts parts{.traces = {user, system}};
+    if (levels.isOn(kUserLevel))
+        parts.copies.push_back({shipped, user});
+    if (levels.isOn(kSystemLevel))
+        parts.copies.push_back({shipped, system});
+    if (parts.copies.empty())
+        parts.obstacle = OutcomeReason{"It was not chosen who can use it."};
+    return parts;
+}
 
 } // namespace
 
@@ -141,22 +155,6 @@ MethodAnswer SpotlightServices::installServicesMode(OpMode mode, std::uint32_t, 
         return MethodAnswer::of(answer);
     });
 }
-
-namespace {
-
-ComponentParts partsAt(const std::string& shipped, const std::string& user,
-                       const std::string& system, const controls::RadioMatrix& levels) {
-    ComponentParts parts{.traces = {user, system}};
-    if (levels.isOn(kUserLevel))
-        parts.copies.push_back({shipped, user});
-    if (levels.isOn(kSystemLevel))
-        parts.copies.push_back({shipped, system});
-    if (parts.copies.empty())
-        parts.obstacle = OutcomeReason{"It was not chosen who can use it."};
-    return parts;
-}
-
-} // namespace
 
 ComponentParts SpotlightServices::spotlightParts() const {
     const Places places = spotlightPlaces();

@@ -8,7 +8,7 @@
 #include "tests/engine/LogLines.h"
 #include "tests/engine/MethodsStage.h"
 #include "tests/engine/ToolsInProcess.h"
-#include "tests/engine/TreeOnDisk.h"
+#include "tests/support/TreeOf.h"
 
 namespace {
 
@@ -110,7 +110,7 @@ TEST_F(CategoryModesTest, AnyOtherModeIsNo) {
 
 TEST_F(CategoryModesTest, ARuleWithoutACategoryRaisesAndIsNo) {
     makeContent();
-    const tests::Tree before = tests::treeAt(stage.folder.path());
+    const tests::Tree before = tests::treeOf(stage.folder.path());
     for (const std::uint32_t item : {kNoPath, kEmptyPath, 100u})
         for (const OpMode mode : {OpMode::check, OpMode::copy, OpMode::remove}) {
             EXPECT_EQ(one(mode, item), 0);
@@ -118,7 +118,7 @@ TEST_F(CategoryModesTest, ARuleWithoutACategoryRaisesAndIsNo) {
             EXPECT_EQ(all(mode, item), 0);
             EXPECT_THAT(stage.logged(), ElementsAre("Exception Raised "));
         }
-    EXPECT_EQ(tests::treeAt(stage.folder.path()), before)
+    EXPECT_EQ(tests::treeOf(stage.folder.path()), before)
         << "least of all the application's own folder is removed";
 }
 

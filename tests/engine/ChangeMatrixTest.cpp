@@ -16,7 +16,7 @@
 
 #include "tests/engine/MethodsStage.h"
 #include "tests/engine/ToolsInProcess.h"
-#include "tests/engine/TreeOnDisk.h"
+#include "tests/support/TreeOf.h"
 
 namespace {
 
@@ -124,7 +124,7 @@ class Matrix {
         std::vector<std::string> traces = {};
     };
 
-    Tree tree() const { return tests::treeAt(stage.folder.path()); }
+    Tree tree() const { return tests::treeOf(stage.folder.path()); }
 
     void backToOrigin() {
         for (const char* folder : {"home", "disk", "tmp", "Scrivel 21"})

@@ -7,8 +7,8 @@
 #include <sys/xattr.h>
 
 #include "tests/engine/MethodsStage.h"
-#include "tests/engine/TreeOnDisk.h"
 #include "tests/support/OrdinaryUser.h"
+#include "tests/support/TreeOf.h"
 
 namespace {
 
@@ -80,10 +80,10 @@ TEST_F(FileModesTest, AMissingDestinationRaisesWhereItWouldBeUsedAndOnlyThere) {
 TEST_F(FileModesTest, RemovingAFileIsWantedToRemoveNothing) {
     writeSource();
     stage.writeBeside("Read Me.txt", "text");
-    const tests::Tree before = tests::treeAt(stage.folder.path());
+    const tests::Tree before = tests::treeOf(stage.folder.path());
     EXPECT_EQ(file(OpMode::remove, source, installFolder), 0);
     EXPECT_EQ(file(OpMode::remove, kNone, installFolder), 0);
-    EXPECT_EQ(tests::treeAt(stage.folder.path()), before);
+    EXPECT_EQ(tests::treeOf(stage.folder.path()), before);
     EXPECT_THAT(stage.logged(),
                 ElementsAre("File: " + source, " Result= No", "File: (null)", " Result= No"));
 }
@@ -163,7 +163,7 @@ TEST_F(FileModesTest, AFolderIsCopiedWholeWithModesTimesAndLinks) {
     const auto time = fs::last_write_time(from + "/inner/file") - std::chrono::hours(1000);
     fs::last_write_time(from + "/inner/file", time);
     EXPECT_EQ(dir(OpMode::copy, from, to), 1);
-    EXPECT_EQ(tests::treeAt(to), tests::treeAt(from));
+    EXPECT_EQ(tests::treeOf(to), tests::treeOf(from));
     EXPECT_EQ(fs::last_write_time(to + "/inner/file"), time);
     EXPECT_EQ(dir(OpMode::copy, from, to), 0) << "there is one already";
     EXPECT_THAT(stage.run(), IsEmpty());
@@ -173,10 +173,10 @@ TEST_F(FileModesTest, AFolderIsCopiedWholeWithModesTimesAndLinks) {
 
 TEST_F(FileModesTest, AFolderIsNotCopiedIntoItself) {
     makeFolders("text", "");
-    const tests::Tree before = tests::treeAt(stage.folder.path());
+    const tests::Tree before = tests::treeOf(stage.folder.path());
     const std::string from = stage.temporary("folder");
     EXPECT_EQ(dir(OpMode::copy, from, from + "/inner/copy"), 0);
-    EXPECT_EQ(tests::treeAt(stage.folder.path()), before);
+    EXPECT_EQ(tests::treeOf(stage.folder.path()), before);
 }
 
 TEST_F(FileModesTest, ACopyThatStopsHalfWayLeavesNothing) {

@@ -8,8 +8,8 @@
 
 #include "platform/posix/SpawnedTools.h"
 #include "tests/engine/MethodsStage.h"
-#include "tests/engine/TreeOnDisk.h"
 #include "tests/support/OrdinaryUser.h"
+#include "tests/support/TreeOf.h"
 
 namespace {
 
@@ -105,7 +105,7 @@ struct RealMethods : testing::Test {
     }
     std::vector<std::string> filters() const { return stage.folder.names("Scrivel 21/Filters"); }
     static bool isEqual(const std::string& copy, const std::string& shipped) {
-        return fs::exists(copy) && tests::treeAt(copy) == tests::treeAt(shipped);
+        return fs::exists(copy) && tests::treeOf(copy) == tests::treeOf(shipped);
     }
     std::string shippedImporter() const {
         return stage.bundle() + "/Contents/Library/Spotlight/Scrivel.mdimporter";

@@ -6,8 +6,8 @@
 #include <gtest/gtest.h>
 
 #include "platform/posix/SpawnedTools.h"
-#include "tests/engine/TreeOnDisk.h"
 #include "tests/support/TemporaryFolder.h"
+#include "tests/support/TreeOf.h"
 
 namespace {
 
@@ -57,7 +57,7 @@ struct ToolsInProcess : testing::Test {
         for (const Call& call : calls) {
             SCOPED_TRACE(call.tool + " " + testing::PrintToString(call.arguments));
             EXPECT_EQ(tests::runInProcess(in(played, call)) == 0, tools.run(in(real, call)) == 0);
-            EXPECT_EQ(tests::treeAt(played.path()), tests::treeAt(real.path()));
+            EXPECT_EQ(tests::treeOf(played.path()), tests::treeOf(real.path()));
         }
     }
     void ditto(const std::string& from, const std::string& to) {
