@@ -6,6 +6,7 @@ build_packages=(
     g++ cmake ninja-build pkg-config git ca-certificates
     qt6-base-dev qt6-tools-dev qt6-translations-l10n libqt6opengl6-dev libqt6svg6 qt6-image-formats-plugins fonts-inter
     libplist-dev nlohmann-json3-dev libcli11-dev libdeflate-dev libutf8proc-dev libisal-dev uuid-dev
+    libsodium-dev libzstd-dev libdivsufsort-dev libssl-dev
     libgtest-dev libgmock-dev
 )
 # What the tests compare with and run in.
