@@ -3,6 +3,7 @@
 #include <array>
 #include <string_view>
 
+#include "tools/makeSampleProduct/SampleContent.h"
 #include "tools/makeSampleProduct/SampleFile.h"
 #include "tools/makeSampleProduct/UserAttribute.h"
 
@@ -59,28 +60,55 @@ void makeApplication(const SampleProduct& product, const fs::path& bundle) {
 
     // A framework as the platform lays it out: versions behind links.
     const fs::path engine = contents / "Frameworks" / "Citations.framework";
-    writeSample(engine / "Versions" / "A" / "Citations", citationStyle("engine", 39));
-    fs::permissions(engine / "Versions" / "A" / "Citations", static_cast<fs::perms>(0755));
-    writeSample(engine / "Versions" / "A" / "Resources" / "rules.txt", citationStyle("rules", 17));
-    fs::create_directory_symlink("A", engine / "Versions" / "Current");
+    const std::string current = releaseOf(product.version) == 0 ? "A" : "B";
+    writeSample(engine / "Versions" / current / "Citations", citationStyle("engine", 39));
+    fs::permissions(engine / "Versions" / current / "Citations", static_cast<fs::perms>(0755));
+    writeSample(engine / "Versions" / current / "Resources" / "rules.txt",
+                citationStyle("rules", 17));
+    fs::create_directory_symlink(current, engine / "Versions" / "Current");
     fs::create_symlink("Versions/Current/Citations", engine / "Citations");
     fs::create_directory_symlink("Versions/Current/Resources", engine / "Resources");
 }
 
-void makeContent(const fs::path& top) {
+// An update edits each style whose number ends so, and drops the last of each field.
+constexpr int kEditedEvery = 20;
+constexpr int kEdition = 7;
+
+void makeStyles(const fs::path& styles, int release) {
+    const int files = kFilesOfEachField - (release > 0);
     for (const std::string_view field : kFields)
-        for (int number = 1; number <= kFilesOfEachField; ++number)
-            writeSample(top / "Styles" / field /
+        for (int number = 1; number <= files; ++number) {
+            const bool isEdited = release > 0 && number % kEditedEvery == 0;
+            writeSample(styles / field /
                             (std::string(field) + " " + std::to_string(number) + ".svstyle"),
-                        citationStyle(field, number));
+                        citationStyle(field, number + (isEdited ? kEdition : 0)));
+        }
+    if (release > 0)
+        for (int number = 1; number <= kEditedEvery; ++number)
+            writeSample(styles / "Informatics" /
+                            ("Informatics " + std::to_string(number) + ".svstyle"),
+                        citationStyle("Informatics", number));
+}
+
+// In an update the library has moved, a folder has gone and attributes are others.
+void makeExamples(const fs::path& top, int release) {
+    const fs::path examples = top / "Examples";
+    writeSample(examples / (release == 0 ? "" : "Libraries") / "Sample Library.enl",
+                citationStyle("library", 30));
+    writeSample(examples / "empty.txt", "");
+    if (release == 0)
+        fs::create_directories(examples / "Attachments");
+    setUserAttribute(examples, "com.BrackleyCorvaldine.purpose", "examples");
+}
+
+void makeReadMe(const fs::path& top, int release) {
     writeSample(top / "Read Me.txt",
                 "Scrivel 21\n\nOpen \"Scrivel 21\" to begin. Your libraries stay "
                 "where you keep them.\n");
-    writeSample(top / "Examples" / "Sample Library.enl", citationStyle("library", 30));
-    writeSample(top / "Examples" / "empty.txt", "");
-    fs::create_directories(top / "Examples" / "Attachments");
-    setUserAttribute(top / "Read Me.txt", "com.BrackleyCorvaldine.origin", "installer");
-    setUserAttribute(top / "Examples", "com.BrackleyCorvaldine.purpose", "examples");
+    setUserAttribute(top / "Read Me.txt", "com.BrackleyCorvaldine.origin",
+                     release == 0 ? "installer" : "update");
+    if (release > 0)
+        writeSample(top / "What Is New.txt", "Styles for informatics, and better filters.\n");
 }
 
 } // namespace
@@ -88,7 +116,12 @@ void makeContent(const fs::path& top) {
 void makeSampleProduct(const SampleProduct& product, const fs::path& top) {
     fs::remove_all(top);
     makeApplication(product, top / "Scrivel 21.app");
-    makeContent(top);
+    const int release = releaseOf(product.version);
+    makeStyles(top / "Styles", release);
+    makeExamples(top, release);
+    makeReadMe(top, release);
+    makeAddIns(top, product.executable, product.version);
+    makeContentBundle(top, release);
 }
 
 } // namespace tools

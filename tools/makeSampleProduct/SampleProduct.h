@@ -1,6 +1,7 @@
 // The sample product: a tree of files of every kind that a real product brings, so that the
-// installer has something real to install. Used by the program makeSampleProduct; the same
-// arguments always give the same tree.
+// installer has something real to install. A version whose third number is not 0 is an update:
+// files of every kind differ, so that there is something real to update to. Used by the program
+// makeSampleProduct; the same arguments always give the same tree.
 #pragma once
 
 #include <filesystem>
