@@ -8,7 +8,7 @@
 #include <fcntl.h>
 
 #include "platform/formats/AppleDouble.h"
-#include "tools/ditto/WorkQueue.h"
+#include "tools/files/WorkQueue.h"
 #include "tools/files/MacAttributes.h"
 
 namespace tools {

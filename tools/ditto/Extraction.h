@@ -18,7 +18,7 @@
 #include "platform/formats/ZipDirectory.h"
 #include "tools/ditto/ArchiveFile.h"
 #include "tools/ditto/MemberReader.h"
-#include "tools/ditto/Progress.h"
+#include "tools/files/Progress.h"
 #include "tools/files/Complaints.h"
 #include "tools/files/Folders.h"
 #include "tools/files/NewFile.h"

@@ -17,8 +17,8 @@
 #include <sys/stat.h>
 
 #include "tools/ditto/CopyContents.h"
-#include "tools/ditto/Progress.h"
-#include "tools/ditto/WorkQueue.h"
+#include "tools/files/Progress.h"
+#include "tools/files/WorkQueue.h"
 #include "tools/files/Complaints.h"
 #include "tools/files/Folders.h"
 #include "tools/files/NewFile.h"

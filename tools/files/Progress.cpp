@@ -1,4 +1,4 @@
-#include "tools/ditto/Progress.h"
+#include "tools/files/Progress.h"
 
 #include <charconv>
 #include <chrono>
