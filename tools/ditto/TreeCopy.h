@@ -16,7 +16,7 @@
 
 #include <sys/stat.h>
 
-#include "tools/ditto/CopyContents.h"
+#include "tools/files/ContentCopier.h"
 #include "tools/files/Progress.h"
 #include "tools/files/WorkQueue.h"
 #include "tools/files/Complaints.h"

@@ -9,9 +9,13 @@
 namespace tools {
 
 void Complaints::about(std::string_view path, std::string_view reason) {
+    say(std::string(path).append(": ").append(reason));
+}
+
+void Complaints::say(std::string_view sentence) {
     m_any = true;
     std::string line = m_program;
-    line.append(": ").append(path).append(": ").append(reason);
+    line.append(": ").append(sentence);
     std::ranges::replace_if(line, [](unsigned char c) { return c < 0x20 || c == 0x7F; }, '?');
     line += '\n';
     for (std::string_view rest = line; !rest.empty();) {

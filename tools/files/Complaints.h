@@ -19,6 +19,9 @@ class Complaints {
     /// The reason is the exception's; of a std::system_error its code alone.
     void about(std::string_view path, const std::exception& error);
 
+    /// A whole sentence, control characters in it as above.
+    void say(std::string_view sentence);
+
     /// 0 without a complaint, else 1.
     int status() const { return m_any ? 1 : 0; }
 

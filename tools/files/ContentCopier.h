@@ -1,5 +1,6 @@
 // Copies the bytes of an open file into another, by the cheapest means that both file systems know:
-// shared blocks, a copy inside the kernel, reading and writing. Holes stay holes.
+// shared blocks, a copy inside the kernel, reading and writing. Holes stay holes. Implemented once
+// for each system by the file of the same name in its folder.
 #pragma once
 
 #include <atomic>
@@ -10,7 +11,7 @@
 
 namespace tools {
 
-/// Shared by the threads of one tree copy, so that a means is tried in vain once only.
+/// Shared by the threads that work on one tree, so that a means is tried in vain once only.
 class ContentCopier {
   public:
     /// Bytes that were copied just now.

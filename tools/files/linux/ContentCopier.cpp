@@ -1,4 +1,4 @@
-#include "tools/ditto/CopyContents.h"
+#include "tools/files/ContentCopier.h"
 
 #include <algorithm>
 #include <array>
