@@ -116,7 +116,8 @@ class Maker {
 
     std::string bytes() {
         static constexpr std::array<std::size_t, 6> kSizes{0, 1, 100, 3000, 5000, 20000};
-        std::string text(oneOf(kSizes), ' ');
+        constexpr std::size_t kRareSize = 150'000;
+        std::string text(below(40) == 0 ? kRareSize : oneOf(kSizes), ' ');
         const bool isText = below(2) == 0;
         for (char& byte : text)
             byte = isText ? "etaoin shrdlu\n"[below(14)] : static_cast<char>(m_random());

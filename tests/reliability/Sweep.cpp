@@ -2,6 +2,7 @@
 
 #include <algorithm>
 #include <cstdlib>
+#include <random>
 #include <system_error>
 
 #include <unistd.h>
@@ -167,7 +168,35 @@ Counts Sweep::all(Plan plan, Slice slice, Judge judge) const {
     }
 }
 
+Counts Sweep::killInARow(Row row) const {
+    std::mt19937_64 random(row.seed);
+    Counts counts;
+    m_needs.stage.restore();
+    counts.calls = undisturbed().counted;
+    for (; counts.runs < row.runs; ++counts.runs) {
+        m_needs.stage.restore();
+        std::vector<std::string> wrong;
+        std::string places;
+        for (std::size_t i = 0; i < row.times; ++i) {
+            const std::size_t at = 1 + random() % counts.calls;
+            places += " " + std::to_string(at);
+            const Act act = random() % 2 == 0 ? Act::killBefore : Act::killAfter;
+            if (m_command.run({.act = act, .at = at, .refuses = m_needs.refuses}).killed)
+                judgeState(counts, wrong);
+        }
+        judgeNextRun(wrong);
+        if (!wrong.empty())
+            counts.complaints.push_back("at calls" + places + ": " + joined(wrong));
+    }
+    return counts;
+}
+
 void Sweep::judgeKilled(const Outcome&, Counts& counts, std::vector<std::string>& wrong) const {
+    judgeState(counts, wrong);
+    judgeNextRun(wrong);
+}
+
+void Sweep::judgeState(Counts& counts, std::vector<std::string>& wrong) const {
     switch (m_needs.stage.state()) {
     case Stage::State::before:
         ++counts.before;
@@ -185,7 +214,6 @@ void Sweep::judgeKilled(const Outcome&, Counts& counts, std::vector<std::string>
     case Stage::State::neither:
         wrong.push_back("the copy is torn (" + m_needs.stage.difference() + ")");
     }
-    judgeNextRun(wrong);
 }
 
 void Sweep::judgeFailed(const Outcome& outcome, Counts& counts,

@@ -61,6 +61,13 @@ struct Slice {
     std::size_t stride = 1;
 };
 
+/// Kills at places that a seed chooses, each run after the other on what the one before left.
+struct Row {
+    std::size_t times = 1;
+    std::size_t runs = 1;
+    std::uint64_t seed = 0;
+};
+
 struct Counts {
     std::size_t calls = 0; ///< that count, in a run which nothing disturbs
     std::size_t runs = 0;  ///< that were struck
@@ -92,6 +99,7 @@ class Sweep {
 
     Counts killBefore(Slice slice) const { return kills(Act::killBefore, slice); }
     Counts killAfter(Slice slice) const { return kills(Act::killAfter, slice); }
+    Counts killInARow(Row row) const;
     Counts failOnce(int error, Slice slice) const { return failures(Act::failOnce, error, slice); }
     Counts failFromThere(int error, Slice slice) const {
         return failures(Act::failFromThere, error, slice);
@@ -103,6 +111,7 @@ class Sweep {
     Counts kills(Act act, Slice slice) const;
     Counts failures(Act act, int error, Slice slice) const;
     Counts all(Plan plan, Slice slice, Judge judge) const;
+    void judgeState(Counts& counts, std::vector<std::string>& wrong) const;
     void judgeKilled(const Outcome& outcome, Counts& counts, std::vector<std::string>& wrong) const;
     void judgeFailed(const Outcome& outcome, Counts& counts, std::vector<std::string>& wrong) const;
     void judgeNextRun(std::vector<std::string>& wrong) const;
