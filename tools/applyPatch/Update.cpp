@@ -64,7 +64,7 @@ Ending Update::apply() {
         oldName = exchanged(copy, building);
     } catch (...) {
         if (!m_leavesBuilding)
-            removeOld(building, m_needs.copy.buildingName());
+            removeBeside(building, m_needs.copy.buildingName());
         throw;
     }
     std::cout << path << " is " << versionText() << " now.\n";
@@ -264,7 +264,10 @@ const std::string& Update::exchanged(const HeldFolder& copy, const HeldFolder& b
     if (error != 0)
         throw refusal(names.path(), error);
     if (!areAt(names.buildingName(), names.name())) {
+        m_leavesBuilding = true; // as long as the disk may know it at the copy's place
         exchange();
+        below(names.parentPath(), [&] { flushFolder(names.parent()); });
+        m_leavesBuilding = false;
         throw refusal(names.path(), ESTALE);
     }
     return names.buildingName();
@@ -293,17 +296,29 @@ void Update::renameInParent(const std::string& from, const std::string& to) {
         throw refusal(m_needs.copy.beside(from), errno);
 }
 
-// The new version is in place, or the old one still: neither is lost by what stays here.
+// The disk has to know the new version at its place before anything of the old one goes.
 void Update::removeOld(const HeldFolder& old, const std::string& name) {
-    const InstalledCopy& copy = m_needs.copy;
     try {
-        flushFolder(copy.parent());
-        removeTree(copy.parent(), name, old.number());
+        flushFolder(m_needs.copy.parent());
     } catch (const std::exception& error) {
-        m_needs.complaints.about(copy.beside(name), error);
-        m_needs.complaints.about(copy.beside(name),
-                                 "could not be removed as a whole; the next run does it");
+        return reportLeftover(name, error);
     }
+    removeBeside(old, name);
+}
+
+// The new version is in place, or the old one still: neither is lost by what stays here.
+void Update::removeBeside(const HeldFolder& folder, const std::string& name) {
+    try {
+        removeTree(m_needs.copy.parent(), name, folder.number());
+    } catch (const std::exception& error) {
+        reportLeftover(name, error);
+    }
+}
+
+void Update::reportLeftover(const std::string& name, const std::exception& error) {
+    const std::string path = m_needs.copy.beside(name);
+    m_needs.complaints.about(path, error);
+    m_needs.complaints.about(path, "could not be removed as a whole; the next run does it");
 }
 
 std::string Update::versionText() const {
