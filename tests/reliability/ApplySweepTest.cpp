@@ -121,6 +121,30 @@ TEST_P(ApplySweep, HasFlushedEverythingBeforeItCounts) {
     });
 }
 
+// Some attributes are the system's own and can't be set by anybody; no copy may miss an update for
+// them.
+TEST(ApplyOnARefusingSystem, LeavesOutAttributesThatItMayNotSetWhichIsWanted) {
+    const tests::Versions versions = tests::randomVersions(2021, 20);
+    const Stage stage(versions.installed, versions.updated);
+    tests::build(versions.before, stage.path("before"));
+    tests::build(versions.after, stage.path("after"));
+    const std::string patch = stage.path("patch");
+    tests::run(tests::makePatch(stage.path("before"), stage.path("after"), patch), stage.folder());
+    std::size_t refused = 0;
+    const Outcome outcome =
+        sweep::TracedCommand(tests::applyPatch(stage.copy(), patch), stage.folder())
+            .run({.refuses = [&](const Call& call) {
+                const bool sets = call.shape->name == "fsetxattr";
+                refused += sets ? 1 : 0;
+                return sets ? EPERM : 0;
+            }});
+    EXPECT_GT(refused, 0U);
+    EXPECT_EQ(outcome.status, 0) << outcome.errors;
+    const auto now = tests::treeOf(stage.copy());
+    tests::build(versions.updated, stage.path("updated"));
+    EXPECT_EQ(now, tests::treeOf(stage.path("updated")));
+}
+
 std::string nameOf(const testing::TestParamInfo<Lacking>& lacking) {
     switch (lacking.param) {
     case Lacking::exchange:

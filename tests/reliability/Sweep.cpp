@@ -28,17 +28,18 @@ fs::path place() {
     return !isGiven && ::access(kMemory, W_OK) == 0 ? fs::path(kMemory) : fs::temp_directory_path();
 }
 
-/// Anything of the calls that were refused, by what they do.
-bool wasRefused(const Outcome& outcome, Effect effect) {
-    return std::ranges::any_of(outcome.calls, [&](const Call& call) {
+/// How many of the calls that do this were refused by the plan.
+std::ptrdiff_t refused(const Outcome& outcome, Effect effect) {
+    return std::ranges::count_if(outcome.calls, [&](const Call& call) {
         return call.refused && call.counted && call.effect == effect;
     });
 }
 
 /// Removing a folder takes reading it.
 bool couldNotRemove(const Outcome& outcome) {
-    return wasRefused(outcome, Effect::remove) || wasRefused(outcome, Effect::open) ||
-           wasRefused(outcome, Effect::read);
+    return refused(outcome, Effect::remove) + refused(outcome, Effect::open) +
+               refused(outcome, Effect::read) >
+           0;
 }
 
 } // namespace
@@ -223,7 +224,7 @@ void Sweep::judgeFailed(const Outcome& outcome, Counts& counts,
     counts.before += state == Stage::State::before ? 1 : 0;
     counts.after += state == Stage::State::after ? 1 : 0;
     if (state == Stage::State::away)
-        wrong.emplace_back("the copy is not there");
+        judgeAway(outcome, counts, wrong);
     else if (state == Stage::State::neither)
         wrong.push_back("the copy is torn (" + m_needs.stage.difference() + ")");
     else if (succeeded != (state == Stage::State::after))
@@ -232,8 +233,10 @@ void Sweep::judgeFailed(const Outcome& outcome, Counts& counts,
     if (!succeeded && outcome.errors.empty())
         wrong.emplace_back("fails without a word");
     const auto left = m_needs.stage.leftovers();
-    if (!left.empty()) {
-        if (!couldNotRemove(outcome))
+    if (!left.empty() && state != Stage::State::away) {
+        // The old version has to stay until the disk knows the new one at its place.
+        const bool hasToStay = succeeded && refused(outcome, Effect::flush) > 0;
+        if (!couldNotRemove(outcome) && !hasToStay)
             wrong.push_back("leaves " + joined(left));
         if (outcome.errors.empty())
             wrong.push_back("says nothing of " + joined(left));
@@ -241,6 +244,18 @@ void Sweep::judgeFailed(const Outcome& outcome, Counts& counts,
     }
     if (!succeeded || !left.empty())
         judgeNextRun(wrong);
+}
+
+// A disk that lets one name be changed and then none any more, and can't exchange two.
+void Sweep::judgeAway(const Outcome& outcome, Counts& counts,
+                      std::vector<std::string>& wrong) const {
+    ++counts.away;
+    if (!m_needs.mayBeAway || refused(outcome, Effect::rename) < 2)
+        wrong.emplace_back("the copy is not there");
+    else if (!m_needs.stage.isWholeBeside())
+        wrong.emplace_back("the copy is neither there nor beside");
+    if (outcome.status == 0)
+        wrong.emplace_back("answers 0 and the copy is not there");
 }
 
 void Sweep::judgeNextRun(std::vector<std::string>& wrong) const {

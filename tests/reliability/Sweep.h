@@ -114,6 +114,7 @@ class Sweep {
     void judgeState(Counts& counts, std::vector<std::string>& wrong) const;
     void judgeKilled(const Outcome& outcome, Counts& counts, std::vector<std::string>& wrong) const;
     void judgeFailed(const Outcome& outcome, Counts& counts, std::vector<std::string>& wrong) const;
+    void judgeAway(const Outcome& outcome, Counts& counts, std::vector<std::string>& wrong) const;
     void judgeNextRun(std::vector<std::string>& wrong) const;
 
     Needs m_needs;
