@@ -62,6 +62,13 @@ bool HeldFolder::isAt(int parent, const std::string& name) const {
            status.st_dev == m_device && status.st_ino == m_inode;
 }
 
+bool HeldFolder::isSurelyNotAt(int parent, const std::string& name) const {
+    struct stat status{};
+    if (::fstatat(parent, name.c_str(), &status, AT_SYMLINK_NOFOLLOW) != 0)
+        return errno == ENOENT;
+    return status.st_dev != m_device || status.st_ino != m_inode;
+}
+
 InstalledCopy::InstalledCopy(const std::string& folder) {
     std::error_code error;
     fs::path path = fs::weakly_canonical(fs::absolute(folder, error), error);

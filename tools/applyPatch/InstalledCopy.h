@@ -34,6 +34,8 @@ class HeldFolder {
     bool isLocked() const;
     /// Whether `name` in `parent` is this very folder.
     bool isAt(int parent, const std::string& name) const;
+    /// Whether it is not, where that can be told.
+    bool isSurelyNotAt(int parent, const std::string& name) const;
 
   private:
     Descriptor m_folder;

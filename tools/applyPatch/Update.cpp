@@ -10,6 +10,7 @@
 #include "tools/applyPatch/NewMetadata.h"
 #include "tools/applyPatch/TreeBuilder.h"
 #include "tools/files/AtomicExchange.h"
+#include "tools/files/ExtendedAttributes.h"
 #include "tools/files/FileError.h"
 #include "tools/files/Flush.h"
 #include "tools/files/FolderEntries.h"
@@ -68,8 +69,8 @@ Ending Update::apply() {
         throw;
     }
     std::cout << path << " is " << versionText() << " now.\n";
-    removeOld(copy, oldName);
     m_needs.progress.finish();
+    removeOld(copy, oldName);
     return Ending::done;
 }
 
@@ -224,6 +225,10 @@ HeldFolder Update::madeBuildingPlace() {
             throw copy.isInTheWay(name);
         if (!building->lock())
             throw otherRun(copy.path());
+        // What the folder above lets others do by inheritance is not what the copy lets them do.
+        for (const std::string& attribute : attributeNames(building->number()))
+            if (isAccessList(attribute))
+                removeAttribute(building->number(), attribute);
         return std::move(*building);
     });
 }
@@ -249,10 +254,8 @@ void Update::build(const Examination& examination, const HeldFolder& copy,
 
 const std::string& Update::exchanged(const HeldFolder& copy, const HeldFolder& building) {
     const InstalledCopy& names = m_needs.copy;
-    const auto areAt = [&](const std::string& copyName, const std::string& buildingName) {
-        return copy.isAt(names.parent(), copyName) && building.isAt(names.parent(), buildingName);
-    };
-    if (!areAt(names.name(), names.buildingName()))
+    if (!copy.isAt(names.parent(), names.name()) ||
+        !building.isAt(names.parent(), names.buildingName()))
         throw refusal(names.path(), ESTALE);
     passPointOfNoReturn();
     const auto exchange = [&] {
@@ -263,11 +266,10 @@ const std::string& Update::exchanged(const HeldFolder& copy, const HeldFolder& b
         return renamedBoth();
     if (error != 0)
         throw refusal(names.path(), error);
-    if (!areAt(names.buildingName(), names.name())) {
-        m_leavesBuilding = true; // as long as the disk may know it at the copy's place
+    // Somebody else was in between. That the disk can't tell is no reason to go back.
+    if (copy.isSurelyNotAt(names.parent(), names.buildingName()) ||
+        building.isSurelyNotAt(names.parent(), names.name())) {
         exchange();
-        below(names.parentPath(), [&] { flushFolder(names.parent()); });
-        m_leavesBuilding = false;
         throw refusal(names.path(), ESTALE);
     }
     return names.buildingName();
@@ -296,29 +298,29 @@ void Update::renameInParent(const std::string& from, const std::string& to) {
         throw refusal(m_needs.copy.beside(from), errno);
 }
 
-// The disk has to know the new version at its place before anything of the old one goes.
+// The exchange is on the disk before anything of the old version goes.
 void Update::removeOld(const HeldFolder& old, const std::string& name) {
     try {
         flushFolder(m_needs.copy.parent());
     } catch (const std::exception& error) {
-        return reportLeftover(name, error);
+        m_needs.complaints.about(m_needs.copy.parentPath(), error);
+        m_needs.complaints.about(m_needs.copy.beside(name),
+                                 "is kept, as the disk may not know of the new version yet; the "
+                                 "next run removes it");
+        return;
     }
     removeBeside(old, name);
 }
 
-// The new version is in place, or the old one still: neither is lost by what stays here.
 void Update::removeBeside(const HeldFolder& folder, const std::string& name) {
+    const InstalledCopy& copy = m_needs.copy;
     try {
-        removeTree(m_needs.copy.parent(), name, folder.number());
+        removeTree(copy.parent(), name, folder.number());
     } catch (const std::exception& error) {
-        reportLeftover(name, error);
+        m_needs.complaints.about(copy.beside(name), error);
+        m_needs.complaints.about(copy.beside(name),
+                                 "could not be removed as a whole; the next run does it");
     }
-}
-
-void Update::reportLeftover(const std::string& name, const std::exception& error) {
-    const std::string path = m_needs.copy.beside(name);
-    m_needs.complaints.about(path, error);
-    m_needs.complaints.about(path, "could not be removed as a whole; the next run does it");
 }
 
 std::string Update::versionText() const {
