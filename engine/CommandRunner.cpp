@@ -40,11 +40,13 @@ bool CommandRunner::authenticate() {
     m_needs.log.logMessage("Authenticate");
     m_authRef = m_needs.administrator.createSession() == 0;
     m_bDidAuthenticate = m_authRef && m_needs.administrator.requestRights() == 0;
+    m_wereRefused = !m_bDidAuthenticate;
     m_needs.log.logMessage("Authentication status ", m_bDidAuthenticate);
     return m_bDidAuthenticate;
 }
 
 void CommandRunner::dethenticate() {
+    m_wereRefused = false;
     if (!m_authRef)
         return;
     m_needs.administrator.freeSession();

@@ -45,7 +45,7 @@ class CommandRunner {
     void dethenticate();
 
     /// Were the rights asked for in this session and not given?
-    bool rightsWereRefused() const { return m_authRef && !m_bDidAuthenticate; }
+    bool rightsWereRefused() const { return m_wereRefused; }
 
     /// `launchApp:params:` runs the tool as the user with the program's own output. Answers its
     /// exit status: 127 when it can't be started, 128 and the signal's number when one killed it.
@@ -96,6 +96,7 @@ class CommandRunner {
     Needs m_needs;
     bool m_authRef = false; ///< does an authorization session stand?
     bool m_bDidAuthenticate = false;
+    bool m_wereRefused = false; ///< also where no session could be made
 };
 
 } // namespace ec

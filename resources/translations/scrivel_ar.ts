@@ -206,7 +206,7 @@
 <message><source>“%@” was updated.</source><translation>تم تحديث «⁦%@⁩».</translation></message>
 <message><source>“%@” could not be updated.</source><translation>تعذّر تحديث «⁦%@⁩».</translation></message>
 <message><source>“%@” was left as it is.</source><translation>تُركت «⁦%@⁩» كما هي.</translation></message>
-<message><source>“%@” is up to date already.</source><translation>«⁦%@⁩» محدَّثة بالفعل.</translation></message>
+<message><source>“%@” is up to date already.</source><translation>النسخة «⁦%@⁩» محدَّثة بالفعل.</translation></message>
 <message><source>This update does not fit “%@”.</source><translation>هذا التحديث لا يناسب «⁦%@⁩».</translation></message>
 <message><source>The update did not take effect.</source><translation>لم يسرِ مفعول التحديث.</translation></message>
 <message><source>No copy of Microsoft Word was found.</source><translation>لم يُعثر على أي نسخة من Microsoft Word.</translation></message>

@@ -110,13 +110,11 @@ TEST_F(PatcherMode, YesOnAllAsksForTheRightsOnce) {
 TEST_F(PatcherMode, TheButtonsAreDisabledWhileTheCopiesAreSearchedAndWhileOneIsUpdated) {
     add("A");
     std::vector<std::string> during;
-    whileTesting = [&] { during.push_back(look()); };
-    const auto effect = host.administrator.effect;
-    host.administrator.effect = [&, effect](const ports::ToolCall& call) {
+    patchTool.whileTesting = [&] { during.push_back(look()); };
+    patchTool.whileApplied = [&](const std::string&) {
         during.push_back(look());
         EXPECT_TRUE(controller.progress.isRunning());
         EXPECT_EQ(controller.processingText.text(), "Updating: " + folder.path("A"));
-        effect(call);
     };
     update({yes(), next()});
     EXPECT_THAT(during, ElementsAre("0 : (Back) (Next) Cancel",
@@ -161,14 +159,10 @@ TEST_F(PatcherMode, EachCopyIsToldInTheEndAsItIsOnDisk) {
     add("Well");
     add("Left");
     add("Bad");
-    const auto effect = host.administrator.effect;
-    host.administrator.effect = [&, effect](const ports::ToolCall& call) {
-        works = !call.arguments.at(1).ends_with("Bad");
-        if (works)
-            host.bundles
-                .strings[{folder.path("Well/Scrivel 21.app"), "CFBundleShortVersionString"}] =
-                "21.1";
-        effect(call);
+    patchTool.whileApplied = [&](const std::string& its) {
+        patchTool.works = !its.ends_with("Bad");
+        if (patchTool.works)
+            host.bundles.strings[{its + "/Scrivel 21.app", "CFBundleShortVersionString"}] = "21.1";
     };
     const auto at = [this](const char* name) { return "“" + folder.path(name) + "”"; };
     update({yes(), no(), yes(),
@@ -187,7 +181,7 @@ TEST_F(PatcherMode, EachCopyIsToldInTheEndAsItIsOnDisk) {
 
 TEST_F(PatcherMode, AFailureStandsOutInTheSummary) {
     add("A");
-    works = false;
+    patchTool.works = false;
     update(
         {yes(), [this] { EXPECT_TRUE(controller.patchSummary.text().runs.at(0).bold); }, next()});
 }
@@ -254,7 +248,7 @@ TEST_F(PatcherMode, ASecondOpeningSearchesAnewAndOffersNoCopyOfTheFirst) {
     const std::string first = add("A");
     update({expectOffered(first), cancel()});
     EXPECT_THAT(states(), ElementsAre(State::offered));
-    copies[first] = Copy::current;
+    patchTool.copies[first] = Copy::current;
     const std::string second = add("B");
     update({expectOffered(second), no(), next()});
     EXPECT_THAT(states(), ElementsAre(State::current, State::declined));

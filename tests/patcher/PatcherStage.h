@@ -1,38 +1,23 @@
 // The whole wizard over fakes, on a machine with copies of the application: folders below the
-// stage's own, and a pretended patch tool that knows of each copy what the real one would find.
+// stage's own, and a pretended patch tool.
 #pragma once
 
 #include <filesystem>
-#include <map>
 #include <string>
 #include <vector>
 
+#include "tests/support/PretendedPatchTool.h"
 #include "tests/wizard/WizardStage.h"
 
 namespace tests {
 
 class PatcherStage : public WizardStage {
   public:
-    enum class Copy { old, altered, current };
+    using Copy = PretendedPatchTool::Copy;
 
-    PatcherStage() {
-        host.tools.handler = [this](const ports::ToolCall& call) { return run(call); };
-        host.administrator.effect = [this](const ports::ToolCall& call) {
-            if (call.tool == tool() && works && copies[call.arguments.at(1)] == Copy::old)
-                copies[call.arguments.at(1)] = Copy::current;
-        };
-    }
+    PretendedPatchTool patchTool{host, folder.path() + "/applyPatch"};
 
-    /// By their folders.
-    std::map<std::string, Copy> copies;
-    /// Does the tool that runs as administrator do what it is for?
-    bool works = true;
-    /// What the tool lists as content that goes with the update, as it prints it.
-    std::string listing;
-    /// Called while the tool runs to test a copy.
-    std::function<void()> whileTesting;
-
-    std::string tool() const { return folder.path() + "/applyPatch"; }
+    const std::string& tool() const { return patchTool.path(); }
     std::string patch() const { return folder.path() + "/Patchfile.patch"; }
     std::string probe() const { return folder.path("tmp/do_not_use_testfile.enl"); }
 
@@ -48,7 +33,7 @@ class PatcherStage : public WizardStage {
                            const std::string& application = "Scrivel 21.app") {
         std::string its = folder.path(name);
         std::filesystem::create_directories(its + "/" + application);
-        copies[its] = copy;
+        patchTool.copies[its] = copy;
         host.bundles.strings[{its + "/" + application, "CFBundleShortVersionString"}] = "21.0";
         return its;
     }
@@ -82,24 +67,6 @@ class PatcherStage : public WizardStage {
     std::string question(const std::string& its) const {
         return "\nA copy of Scrivel was found at the following location:\n\n" + its +
                "\n\nWould you like to update this copy?\n";
-    }
-
-  private:
-    fakes::FakeTools::Answer run(const ports::ToolCall& call) {
-        if (call.tool != tool())
-            return {};
-        const Copy copy = copies[call.arguments.at(1)];
-        const std::string& request = call.arguments.at(4);
-        if (request == "-n" && whileTesting)
-            whileTesting();
-        if (request == "-n")
-            return {.status = copy == Copy::old ? 0 : 1};
-        if (request == "--verify")
-            return {.status = copy == Copy::current ? 0 : 1};
-        if (request == "-C")
-            return {.output = listing};
-        ADD_FAILURE() << "the tool has no " << request;
-        return {.status = 64};
     }
 };
 

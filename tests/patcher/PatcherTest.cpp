@@ -56,7 +56,7 @@ TEST_F(Patcher, TheUsualInstallationCountsOnlyAsAFolder) {
 TEST_F(Patcher, TheUsualInstallationUnderAnotherSpellingIsExaminedTwiceAsIsWanted) {
     add("Applications/Scrivel 21");
     host.applications.openers["enl"] = {folder.path("Applications/./Scrivel 21/Scrivel 21.app")};
-    copies[folder.path("Applications/./Scrivel 21")] = Copy::old;
+    patchTool.copies[folder.path("Applications/./Scrivel 21")] = Copy::old;
     EXPECT_EQ(controller.findAllScrivels(), 2);
 }
 
@@ -129,7 +129,9 @@ TEST_F(Patcher, AnEmptyDocumentStandsThereForTheSearchAlone) {
     fs::create_directories(folder.path("tmp"));
     add("A");
     bool stood = false;
-    whileTesting = [&] { stood = fs::is_regular_file(probe()) && fs::file_size(probe()) == 0; };
+    patchTool.whileTesting = [&] {
+        stood = fs::is_regular_file(probe()) && fs::file_size(probe()) == 0;
+    };
     (void)controller.findAllScrivels();
     EXPECT_TRUE(stood);
     EXPECT_FALSE(fs::exists(probe()));
@@ -139,7 +141,7 @@ TEST_F(Patcher, ADocumentThatStandsThereAlreadyIsUsedAsItIsAndGoesToo) {
     folder.write("tmp/do_not_use_testfile.enl", "somebody's");
     add("A");
     std::string text;
-    whileTesting = [&] { text = tests::contentsOf(probe()); };
+    patchTool.whileTesting = [&] { text = tests::contentsOf(probe()); };
     (void)controller.findAllScrivels();
     EXPECT_EQ(text, "somebody's");
     EXPECT_FALSE(fs::exists(probe()));
@@ -157,7 +159,7 @@ TEST_F(Patcher, NoFileIsMadeWhereALinkAtTheDocumentsPlaceLeads) {
     fs::create_directories(folder.path("tmp"));
     fs::create_symlink(folder.path("elsewhere"), probe());
     add("A");
-    whileTesting = [&] { EXPECT_FALSE(fs::exists(folder.path("elsewhere"))); };
+    patchTool.whileTesting = [&] { EXPECT_FALSE(fs::exists(folder.path("elsewhere"))); };
     EXPECT_EQ(controller.findAllScrivels(), 1);
     EXPECT_TRUE(fs::is_symlink(probe()));
 }
@@ -197,6 +199,14 @@ TEST_F(Patcher, ARefusalAnswersAsASuccessAndLeavesOutTheAddInAndTheContent) {
     EXPECT_FALSE(controller.patchScrivel(its, false));
     EXPECT_THAT(logged(), ElementsAre("Authenticate", "Authentication status :Failed"));
     EXPECT_THAT(host.administrator.calls, IsEmpty());
+    EXPECT_THAT(host.tools.calls, IsEmpty());
+}
+
+TEST_F(Patcher, WhereNoSessionForTheRightsCanBeMadeItIsARefusalToo) {
+    const std::string its = add("A");
+    host.administrator.sessionError = ports::Administrator::kDenied;
+    EXPECT_FALSE(controller.patchScrivel(its, false));
+    EXPECT_THAT(logged(), ElementsAre("Authenticate", "Authentication status :Failed"));
     EXPECT_THAT(host.tools.calls, IsEmpty());
 }
 
@@ -240,7 +250,7 @@ struct PatcherContent : Patcher {
 
     /// What was copied and removed after the update with the listing.
     std::vector<std::string> changes(const std::string& lines) {
-        listing = lines;
+        patchTool.listing = lines;
         host.tools.calls.clear();
         (void)controller.patchScrivel(its, false);
         std::vector<std::string> done;
@@ -336,7 +346,7 @@ TEST_F(Patcher, TheContentOfACopyInAFolderWithAnyNameIsFound) {
     const std::string one = its + "/Product-Support/Content.bundle/Filters/Öl/eins.filter";
     folder.write("Büro/日本語/Product-Support/Content.bundle/Filters/Öl/eins.filter", "new");
     folder.write("Büro/日本語/Filters/eins.filter", "old");
-    listing = "A," + one + "\n";
+    patchTool.listing = "A," + one + "\n";
     (void)controller.patchScrivel(its, false);
     EXPECT_EQ(timesLogged("Copy: " + one + " -> " + its + "/Filters"), 1);
 }
