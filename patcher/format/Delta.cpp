@@ -9,7 +9,6 @@ namespace patch {
 
 namespace {
 
-constexpr std::size_t kWindow = 1 << 18;
 constexpr std::uint64_t kLongest = std::uint64_t{1} << 56;
 
 [[noreturn]] void refuse(const char* what) {
@@ -264,19 +263,39 @@ DeltaHead decodedHead(FieldReader& reader) {
     return head;
 }
 
-std::span<std::byte> OldWindow::at(std::uint64_t offset, std::size_t length) {
-    if (offset < m_offset || offset - m_offset > m_window.size() ||
-        length > m_window.size() - (offset - m_offset)) {
-        // A little of what lies before, too: matches often go back a few bytes.
-        m_offset = offset - std::min<std::uint64_t>(offset, kWindow / 8);
-        m_window.resize(
-            static_cast<std::size_t>(std::min<std::uint64_t>(kWindow, m_old.size() - m_offset)));
-        m_old.read(m_offset, m_window);
+OldWindow::OldWindow(const Source& old) : m_old(old), m_copy(kMostAtOnce) {
+    m_numbers.fill(~std::uint64_t{0});
+}
+
+View OldWindow::page(std::uint64_t number) {
+    const std::uint64_t offset = number * kPage;
+    const auto length =
+        static_cast<std::size_t>(std::min<std::uint64_t>(kPage, m_old.size() - offset));
+    if (m_pages.empty())
+        m_pages.resize(kPage * kPages);
+    const auto slot = static_cast<std::size_t>(number % kPages);
+    const auto room = std::span(m_pages).subspan(slot * kPage, length);
+    if (m_numbers[slot] != number) {
+        m_old.read(offset, room);
+        m_numbers[slot] = number;
     }
-    m_copy.resize(std::max(m_copy.size(), length));
-    std::copy_n(m_window.begin() + static_cast<std::ptrdiff_t>(offset - m_offset), length,
-                m_copy.begin());
-    return std::span(m_copy).first(length);
+    return room;
+}
+
+std::span<std::byte> OldWindow::at(std::uint64_t offset, std::size_t length) {
+    const auto copy = std::span(m_copy).first(length);
+    if (length >= kPage) {
+        m_old.read(offset, copy);
+        return copy;
+    }
+    for (std::size_t done = 0; done < length;) {
+        const View bytes = page((offset + done) / kPage)
+                               .subspan(static_cast<std::size_t>((offset + done) % kPage));
+        const std::size_t now = std::min(bytes.size(), length - done);
+        std::copy_n(bytes.begin(), now, copy.begin() + static_cast<std::ptrdiff_t>(done));
+        done += now;
+    }
+    return copy;
 }
 
 void makeFromDelta(const Source& patch, std::uint64_t offset, std::uint64_t length,

@@ -47,19 +47,26 @@ Bytes encodedHead(const DeltaHead& head);
 /// breaks the rules of Layout.
 DeltaHead decodedHead(FieldReader& reader);
 
-/// Gives stretches of an old file out as copies that may be changed.
+/// Gives stretches of an old file out as copies that may be changed. Keeps some pages of it, as
+/// matches often jump to and fro.
 class OldWindow {
   public:
-    explicit OldWindow(const Source& old) : m_old(old) {}
-    static constexpr std::size_t kMostAtOnce = 1 << 16;
+    /// `old` must outlive the window.
+    explicit OldWindow(const Source& old);
+    static constexpr std::size_t kMostAtOnce = std::size_t{1} << 16;
 
     /// At most kMostAtOnce bytes; valid until the next call. They must be within the old file.
     std::span<std::byte> at(std::uint64_t offset, std::size_t length);
 
   private:
+    static constexpr std::size_t kPage = std::size_t{1} << 14;
+    static constexpr std::size_t kPages = 64;
+
+    View page(std::uint64_t number);
+
     const Source& m_old;
-    Bytes m_window;
-    std::uint64_t m_offset = 0;
+    std::array<std::uint64_t, kPages> m_numbers; ///< of the pages that are kept
+    Bytes m_pages;
     Bytes m_copy;
 };
 

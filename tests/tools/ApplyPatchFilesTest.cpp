@@ -379,16 +379,15 @@ TEST_F(ApplyPatchFiles, AHugeSparseFileTakesNoRoom) {
     constexpr off_t kHuge = off_t{1} << 30;
     for (const char* path : {"before/huge", "after/huge moved"}) {
         write(path, "begin");
-        ASSERT_EQ(::truncate(at(path).c_str(), 300 << 20), 0);
+        ASSERT_EQ(::truncate(at(path).c_str(), 16 << 20), 0);
     }
     setMode("after/huge moved", 0600);
-    write("before/sparse", "");
     makePatch();
     makeCopy();
     write("copy/own", "begin");
     ASSERT_EQ(::truncate(at("copy/own").c_str(), kHuge), 0);
     expectUpdate();
-    EXPECT_EQ(statusOf("copy/huge moved").st_size, 300 << 20);
+    EXPECT_EQ(statusOf("copy/huge moved").st_size, 16 << 20);
     EXPECT_LT(statusOf("copy/huge moved").st_blocks, 1000);
     EXPECT_EQ(statusOf("copy/own").st_size, kHuge);
     EXPECT_LT(statusOf("copy/own").st_blocks, 1000);

@@ -1,4 +1,4 @@
-// Work that is known beforehand, done on all cores. For tools that check or make many files.
+// Work that is known beforehand, done by several threads. For tools that check or make many files.
 #pragma once
 
 #include <atomic>
@@ -6,17 +6,18 @@
 #include <exception>
 #include <mutex>
 #include <thread>
+#include <utility>
 #include <vector>
 
 #include "tools/files/WorkQueue.h"
 
 namespace tools {
 
-/// Calls `work(next)` on each core, this thread's among them; `next()` answers 0, 1, 2 ... across
-/// all threads, and at least `count` when there is no more. The first exception ends the others'
-/// work and is thrown here when all have ended.
+/// Calls `work(next)` on so many threads at most, this one among them; `next()` answers 0, 1, 2 ...
+/// across all threads, and at least `count` when there is no more. The first exception ends the
+/// others' work and is thrown here when all have ended.
 template <typename Work>
-void onAllCores(std::size_t count, Work work) {
+void onThreads(std::size_t most, std::size_t count, Work work) {
     std::atomic<std::size_t> given = 0;
     std::mutex mutex;
     std::exception_ptr failure;
@@ -33,7 +34,7 @@ void onAllCores(std::size_t count, Work work) {
     };
     std::vector<std::thread> others;
     try {
-        while (others.size() + 1 < std::min(workerCount(), count))
+        while (others.size() + 1 < std::min(most, count))
             others.emplace_back(guarded);
     } catch (const std::system_error&) {
         // Fewer threads do it as well.
@@ -43,6 +44,12 @@ void onAllCores(std::size_t count, Work work) {
         other.join();
     if (failure)
         std::rethrow_exception(failure);
+}
+
+/// The same with a thread for each core.
+template <typename Work>
+void onAllCores(std::size_t count, Work work) {
+    onThreads(workerCount(), count, std::move(work));
 }
 
 } // namespace tools
