@@ -32,9 +32,9 @@ std::size_t equalBytes(View left, View right) {
 class PieceMatching {
   public:
     PieceMatching(View before, View after, std::vector<Match>& matches, std::uint64_t beforeAt,
-                  std::uint64_t afterAt)
+                  std::uint64_t afterAt, MatchingEffort& effort)
         : m_before(before), m_after(after), m_index(before), m_matches(matches),
-          m_beforeAt(beforeAt), m_afterAt(afterAt) {}
+          m_beforeAt(beforeAt), m_afterAt(afterAt), m_effort(effort) {}
 
     /// `from` is where the first bytes of the piece are expected in the old window.
     void run(std::ptrdiff_t from) {
@@ -43,12 +43,15 @@ class PieceMatching {
         std::size_t step = kTriesToWiden;
         while (scan < m_after.size()) {
             const std::size_t run = commonLength(along(scan), m_after.subspan(scan));
+            m_effort.bytes += run;
             if (run >= kRun) {
                 scan += run;
                 step = kTriesToWiden;
                 continue;
             }
             const auto [at, length] = m_index.longest(m_after.subspan(scan), expected(scan));
+            ++m_effort.looks;
+            m_effort.bytes += 2 * length; // once more for what goes on as before
             if (length > kGain &&
                 length > kGain + equalBytes(along(scan), m_after.subspan(scan, length))) {
                 begin(at, scan);
@@ -81,9 +84,10 @@ class PieceMatching {
     }
 
     /// Ends the match at hand where its likeness does, before `limit`.
-    std::size_t forward(std::size_t limit) const {
+    std::size_t forward(std::size_t limit) {
         const View old = along(m_to);
         const std::size_t most = std::min(limit - m_to, old.size());
+        m_effort.bytes += most;
         std::ptrdiff_t score = 0;
         std::ptrdiff_t best = 0;
         std::size_t length = 0;
@@ -98,8 +102,9 @@ class PieceMatching {
     }
 
     /// A match begins with these bytes: how far before them does it reach?
-    std::size_t backward(std::size_t at, std::size_t scan) const {
+    std::size_t backward(std::size_t at, std::size_t scan) {
         const std::size_t most = std::min(scan - m_to, at);
+        m_effort.bytes += most;
         std::ptrdiff_t score = 0;
         std::ptrdiff_t best = 0;
         std::size_t length = 0;
@@ -163,6 +168,7 @@ class PieceMatching {
     std::vector<Match>& m_matches;
     std::uint64_t m_beforeAt;
     std::uint64_t m_afterAt;
+    MatchingEffort& m_effort;
     std::size_t m_to = 0;      ///< where the match at hand begins
     std::ptrdiff_t m_from = 0; ///< and where its bytes are in the old window, if there
 };
@@ -170,7 +176,8 @@ class PieceMatching {
 } // namespace
 
 std::vector<Match> matchesOf(const patch::Source& before, const patch::Source& after,
-                             MatchingWindow window) {
+                             MatchingWindow window, MatchingEffort* effort) {
+    MatchingEffort nobodysEffort;
     std::vector<Match> matches;
     Bytes old;
     Bytes fresh;
@@ -188,7 +195,7 @@ std::vector<Match> matchesOf(const patch::Source& before, const patch::Source& a
         before.read(begin, old);
         fresh.resize(static_cast<std::size_t>(length));
         after.read(at, fresh);
-        PieceMatching piece(old, fresh, matches, begin, at);
+        PieceMatching piece(old, fresh, matches, begin, at, effort ? *effort : nobodysEffort);
         piece.run(static_cast<std::ptrdiff_t>(goesOn) - static_cast<std::ptrdiff_t>(begin));
         const std::ptrdiff_t next = static_cast<std::ptrdiff_t>(begin) + piece.nextFrom();
         goesOn =

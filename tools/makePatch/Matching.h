@@ -22,9 +22,15 @@ struct MatchingWindow {
     std::size_t after = std::size_t{32} << 20;
 };
 
+/// What the matching took, to tell how it grows.
+struct MatchingEffort {
+    std::uint64_t looks = 0; ///< into the sorted suffixes
+    std::uint64_t bytes = 0; ///< compared one by one, and found alike
+};
+
 /// Sorted by the new file's offsets, without overlap there. What lies between has no likeness. Time
 /// grows as the sizes, also of content that repeats itself.
 std::vector<patch::Match> matchesOf(const patch::Source& before, const patch::Source& after,
-                                    MatchingWindow window = {});
+                                    MatchingWindow window = {}, MatchingEffort* effort = nullptr);
 
 } // namespace tools

@@ -1,8 +1,5 @@
 #include "tools/makePatch/SuffixIndex.h"
 
-#include <algorithm>
-#include <bit>
-#include <cstring>
 #include <new>
 
 #include <divsufsort.h>
@@ -19,24 +16,6 @@ std::size_t bucketOf(patch::View two) {
 }
 
 } // namespace
-
-std::size_t commonLength(patch::View left, patch::View right) {
-    const std::size_t most = std::min(left.size(), right.size());
-    std::size_t length = 0;
-    if constexpr (std::endian::native == std::endian::little) {
-        for (; length + 8 <= most; length += 8) {
-            std::uint64_t a;
-            std::uint64_t b;
-            std::memcpy(&a, left.data() + length, sizeof a);
-            std::memcpy(&b, right.data() + length, sizeof b);
-            if (a != b)
-                return length + static_cast<std::size_t>(std::countr_zero(a ^ b)) / 8;
-        }
-    }
-    while (length < most && left[length] == right[length])
-        ++length;
-    return length;
-}
 
 SuffixIndex::SuffixIndex(patch::View bytes)
     : m_bytes(bytes), m_sorted(bytes.size()), m_buckets(kBuckets + 1) {

@@ -2,8 +2,11 @@
 // times the bytes' own room, and time that grows as their number, whatever they are.
 #pragma once
 
+#include <algorithm>
+#include <bit>
 #include <cstddef>
 #include <cstdint>
+#include <cstring>
 #include <vector>
 
 #include "patcher/format/Bytes.h"
@@ -34,6 +37,22 @@ class SuffixIndex {
 };
 
 /// How many bytes both begin with.
-std::size_t commonLength(patch::View left, patch::View right);
+inline std::size_t commonLength(patch::View left, patch::View right) {
+    const std::size_t most = std::min(left.size(), right.size());
+    std::size_t length = 0;
+    if constexpr (std::endian::native == std::endian::little) {
+        for (; length + 8 <= most; length += 8) {
+            std::uint64_t a;
+            std::uint64_t b;
+            std::memcpy(&a, left.data() + length, sizeof a);
+            std::memcpy(&b, right.data() + length, sizeof b);
+            if (a != b)
+                return length + static_cast<std::size_t>(std::countr_zero(a ^ b)) / 8;
+        }
+    }
+    while (length < most && left[length] == right[length])
+        ++length;
+    return length;
+}
 
 } // namespace tools
