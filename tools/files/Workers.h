@@ -1,10 +1,15 @@
 // Work that is known beforehand, done by several threads. For tools that check or make many files.
 #pragma once
 
+#include <algorithm>
 #include <atomic>
 #include <cstddef>
+#include <cstdint>
 #include <exception>
+#include <functional>
+#include <iterator>
 #include <mutex>
+#include <system_error>
 #include <thread>
 #include <utility>
 #include <vector>
@@ -50,6 +55,19 @@ void onThreads(std::size_t most, std::size_t count, Work work) {
 template <typename Work>
 void onAllCores(std::size_t count, Work work) {
     onThreads(workerCount(), count, std::move(work));
+}
+
+/// The same items with the large ones first, the largest before all, so that no core begins one
+/// when the others are done; the small ones keep their order. `size(item)` is in bytes.
+template <typename Item, typename Size>
+std::vector<Item> largeOnesFirst(const std::vector<Item>& items, std::uint64_t large, Size size) {
+    const auto isLarge = [&](const Item& item) { return size(item) >= large; };
+    std::vector<Item> order;
+    order.reserve(items.size());
+    std::ranges::copy_if(items, std::back_inserter(order), isLarge);
+    std::ranges::sort(order, std::ranges::greater(), size);
+    std::ranges::copy_if(items, std::back_inserter(order), std::not_fn(isLarge));
+    return order;
 }
 
 } // namespace tools
