@@ -1,5 +1,6 @@
 // The sample product's program: says that it was launched, on standard output and in a file of the
-// user's, and ends; with the argument --version, says which version it is. With SCRIVEL_SAMPLE_STAY=SECONDS in the environment it stays open that long.
+// user's, and ends; with the argument --version, says which version it is. With
+// SCRIVEL_SAMPLE_STAY=SECONDS in the environment it stays open that long.
 #include <chrono>
 #include <cstdlib>
 #include <filesystem>

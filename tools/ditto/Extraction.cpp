@@ -8,8 +8,8 @@
 #include <fcntl.h>
 
 #include "platform/formats/AppleDouble.h"
-#include "tools/files/WorkQueue.h"
 #include "tools/files/MacAttributes.h"
+#include "tools/files/WorkQueue.h"
 
 namespace tools {
 

@@ -18,10 +18,10 @@
 #include "platform/formats/ZipDirectory.h"
 #include "tools/ditto/ArchiveFile.h"
 #include "tools/ditto/MemberReader.h"
-#include "tools/files/Progress.h"
 #include "tools/files/Complaints.h"
 #include "tools/files/Folders.h"
 #include "tools/files/NewFile.h"
+#include "tools/files/Progress.h"
 
 namespace tools {
 

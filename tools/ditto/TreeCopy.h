@@ -16,12 +16,12 @@
 
 #include <sys/stat.h>
 
-#include "tools/files/ContentCopier.h"
-#include "tools/files/Progress.h"
-#include "tools/files/WorkQueue.h"
 #include "tools/files/Complaints.h"
+#include "tools/files/ContentCopier.h"
 #include "tools/files/Folders.h"
 #include "tools/files/NewFile.h"
+#include "tools/files/Progress.h"
+#include "tools/files/WorkQueue.h"
 
 namespace tools {
 

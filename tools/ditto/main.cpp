@@ -9,10 +9,10 @@
 
 #include "tools/ditto/ArchiveFile.h"
 #include "tools/ditto/Extraction.h"
-#include "tools/files/Progress.h"
 #include "tools/ditto/TreeCopy.h"
 #include "tools/files/Complaints.h"
 #include "tools/files/Folders.h"
+#include "tools/files/Progress.h"
 
 namespace {
 
