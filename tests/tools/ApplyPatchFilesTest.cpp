@@ -1,10 +1,12 @@
 // What becomes of each kind of entry when a patch is applied: what users added, permissions,
 // attributes, times, links, changes of kind.
+#include <cstdint>
 #include <filesystem>
 #include <string>
 
 #include <fcntl.h>
 #include <sys/stat.h>
+#include <sys/xattr.h>
 #include <unistd.h>
 
 #include <gmock/gmock.h>
@@ -327,6 +329,62 @@ TEST_F(ApplyPatchFiles, FilesThatMoveNeedNoNewContent) {
     write("after/another one", std::string(9000, '1'));
     update();
     EXPECT_EQ(contents("copy"), contents("after"));
+}
+
+TEST_F(ApplyPatchFiles, AFileThatMovedWithAllThatBelongsToItIsTheSameFile) {
+    write("before/moves", "all of it");
+    write("after/has moved", "all of it");
+    write("after/sub/is there twice", "all of it");
+    for (const char* path : {"before/moves", "after/has moved", "after/sub/is there twice"})
+        setTime(path, 6000);
+    makePatch();
+    makeCopy();
+    const ino_t inode = statusOf("copy/moves").st_ino;
+    expectUpdate();
+    EXPECT_EQ(contents("copy"), contents("after"));
+    EXPECT_EQ(statusOf("copy/has moved").st_ino, inode);
+    EXPECT_EQ(statusOf("copy/sub/is there twice").st_ino, inode);
+}
+
+TEST_F(ApplyPatchFiles, AFileThatStaysAndAlsoAppearsElsewhereIsTheSameFile) {
+    setTime("before/same", 6000);
+    setTime("after/same", 6000);
+    write("after/a copy of same", "stays as it is");
+    setTime("after/a copy of same", 6000);
+    makePatch();
+    makeCopy();
+    const ino_t inode = statusOf("copy/same").st_ino;
+    expectUpdate();
+    EXPECT_EQ(contents("copy"), contents("after"));
+    EXPECT_EQ(statusOf("copy/same").st_ino, inode);
+}
+
+// The list is the kernel's form: version 2, then for each entry its tag, its rights and whom it is
+// about.
+TEST_F(ApplyPatchFiles, RightsThatTheFolderAboveGivesByInheritanceAreNotGiven) {
+    struct Entry {
+        std::uint16_t tag;
+        std::uint16_t rights;
+        std::uint32_t whom;
+    };
+    constexpr std::uint32_t kNobodyNamed = 0xffffffff;
+    const Entry entries[] = {{0x01, 7, kNobodyNamed},
+                             {0x02, 7, 4444},
+                             {0x04, 5, kNobodyNamed},
+                             {0x10, 7, kNobodyNamed},
+                             {0x20, 5, kNobodyNamed}};
+    std::string list("\x02\0\0\0", 4);
+    list.append(reinterpret_cast<const char*>(entries), sizeof entries);
+    makePatch();
+    makeCopy();
+    if (::setxattr(at("").c_str(), "system.posix_acl_default", list.data(), list.size(), 0) != 0)
+        GTEST_SKIP() << "the temporary folder's file system has no access lists";
+    fs::create_directory(at("inheriting"));
+    ASSERT_NE(attribute("inheriting", "system.posix_acl_access"), "none");
+    expectUpdate();
+    for (const char* path : {"copy", "copy/changed", "copy/new", "copy/new/folder/file"})
+        for (const char* name : {"system.posix_acl_access", "system.posix_acl_default"})
+            EXPECT_EQ(attribute(path, name), "none") << path;
 }
 
 TEST_F(ApplyPatchFiles, ANameMayChangeInTheCaseOfItsLettersOnly) {
