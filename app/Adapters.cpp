@@ -30,6 +30,9 @@ class NoLaunches final : public ports::Applications {
     std::vector<std::string> pathsFor(std::string_view identifier) override {
         return m_inner->pathsFor(identifier);
     }
+    std::optional<std::vector<std::string>> pathsForDocument(std::string_view document) override {
+        return m_inner->pathsForDocument(document);
+    }
     bool launch(const std::string&) override { return true; }
 
   private:

@@ -58,25 +58,61 @@ constexpr std::string_view wordFor(Result result) {
     return "failed";
 }
 
+constexpr std::string_view wordFor(ec::CopyOutcome::State state) {
+    using State = ec::CopyOutcome::State;
+    switch (state) {
+    case State::offered:
+        return "offered";
+    case State::declined:
+        return "declined";
+    case State::updated:
+        return "updated";
+    case State::refused:
+        return "refused";
+    case State::current:
+        return "current";
+    case State::unfit:
+        return "unfit";
+    case State::failed:
+        break;
+    }
+    return "failed";
+}
+
 /// In English, whatever the user's language.
 std::string reasonOf(const ec::ComponentOutcome& outcome) {
     return outcome.reason ? ec::formatted(outcome.reason->text.english(), {outcome.reason->about})
                           : std::string();
 }
 
-/// The components that failed, each with its reason.
+std::string reasonOf(const ec::CopyOutcome& copy) {
+    const auto reason = copy.reason();
+    return reason ? std::string(reason->english()) : std::string();
+}
+
+/// The components and copies that failed, each with its reason.
 std::string failuresOf(const ec::WizardSession& session) {
     std::string failures;
+    const auto add = [&failures](const std::string& name, const std::string& reason) {
+        failures += (failures.empty() ? "" : " ") + name + ": " + reason;
+    };
     for (const ec::ComponentOutcome& outcome : session.outcomes)
         if (!outcome.succeeded())
-            failures += (failures.empty() ? "" : " ") + outcome.name + ": " + reasonOf(outcome);
+            add(outcome.name, reasonOf(outcome));
+    for (const ec::CopyOutcome& copy : session.copies)
+        if (!copy.succeeded())
+            add(copy.folder, reasonOf(copy));
     return failures;
 }
 
 bool wasRefused(const ec::WizardSession& session) {
-    return std::ranges::any_of(session.outcomes, [](const ec::ComponentOutcome& outcome) {
-        return outcome.result == Result::refused;
-    });
+    return std::ranges::any_of(session.outcomes,
+                               [](const ec::ComponentOutcome& outcome) {
+                                   return outcome.result == Result::refused;
+                               }) ||
+           std::ranges::any_of(session.copies, [](const ec::CopyOutcome& copy) {
+               return copy.state == ec::CopyOutcome::State::refused;
+           });
 }
 
 Event eventOf(const ec::ComponentOutcome& outcome) {
@@ -88,6 +124,13 @@ Event eventOf(const ec::ComponentOutcome& outcome) {
             {"result", wordFor(outcome.result)},
             {"present", outcome.present},
             {"reason", reasonOf(outcome)}};
+}
+
+Event eventOf(const ec::CopyOutcome& copy) {
+    return {{"folder", copy.folder},
+            {"version", copy.version ? Event(*copy.version) : Event()},
+            {"state", wordFor(copy.state)},
+            {"reason", reasonOf(copy)}};
 }
 
 } // namespace
@@ -119,6 +162,8 @@ RunOutcome WizardRun::run() {
     m_program.adapters().mainQueue.runPending();
     for (const ec::ComponentOutcome& outcome : wizard.outcomes)
         m_program.events().emit("component", eventOf(outcome));
+    for (const ec::CopyOutcome& copy : wizard.copies)
+        m_program.events().emit("copy", eventOf(copy));
     return outcomeOfWizard(wizard, {.result = result,
                                     .unfollowed = m_program.driver().failure(),
                                     .cancelled = m_program.driver().cancelled()});

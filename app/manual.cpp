@@ -73,12 +73,18 @@ void manualPage(std::ostream& out) {
         "the user cancelled or declined",
         "wrong usage, an unreadable answers file or an unknown component; nothing was started",
         "the answers file could not be followed",
-        "something failed: standard error says what, and the log holds the tools' lines",
+        "something failed, or an accepted copy is not updated: standard error says what, and the "
+        "log holds the tools' lines",
         "administrator rights were needed and refused",
         "the session ended at the question about running applications",
     };
     for (int code = 0; const std::string_view meaning : kCodes)
         out << ".TP\n.B " << code++ << "\n" << troff(meaning) << ".\n";
+    out << ".SH UPDATING COPIES\nThe command\n.B update\nlooks for the applications that open the "
+           "product's documents and offers each copy of the product that the update fits. "
+           "Unattended it updates them all, unless an answers file presses\n.I backBtn\n(No) "
+           "where a copy is offered, instead of\n.I nextBtn\n(Yes). What became of each copy is "
+           "told by an event \"copy\", and what is said of it is read back from the disk.\n";
     out << ".SH FILES\n.TP\n.I ~/Library/Logs/Scrivel 21 Stub Install.log\nThe log. Not written "
            "where the folder is missing.\n.SH ENVIRONMENT\n.TP\n.B HOME\nWhere \"~\" leads without "
         << troff("--home")

@@ -4,6 +4,7 @@
 
 #include "engine/FolderListing.h"
 #include "engine/Guarded.h"
+#include "engine/Product.h"
 #include "platform/ports/PlatformError.h"
 
 namespace ec {
@@ -12,8 +13,6 @@ namespace fs = std::filesystem;
 
 namespace {
 
-/// Beside the application. Two separators in a row count as one.
-constexpr std::string_view kContentBundle = "Product-Support//Content.bundle";
 constexpr std::string_view kMostPopular = "Most Popular";
 
 constexpr int kMixed = -2;
@@ -34,7 +33,7 @@ CategoryModes::Places CategoryModes::placesOf(std::uint32_t itemNum) const {
     if (path.find_first_not_of('/') == std::string::npos) // the folder itself is no category
         throw ports::PlatformError("the rule names no category");
     const std::string folder = fs::path(m_needs.bundles.mainBundle()).parent_path().native();
-    const std::string content = joinedPath(folder, kContentBundle);
+    const std::string content = joinedPath(folder, product::kContentBundle);
     return {.source = joinedPath(content, path),
             .destination = joinedPath(folder, path),
             .holder = joinedPath(folder, fs::path(path).parent_path().native()),

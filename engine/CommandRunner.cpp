@@ -40,11 +40,13 @@ bool CommandRunner::authenticate() {
     m_needs.log.logMessage("Authenticate");
     m_authRef = m_needs.administrator.createSession() == 0;
     m_bDidAuthenticate = m_authRef && m_needs.administrator.requestRights() == 0;
+    m_wereRefused = !m_bDidAuthenticate;
     m_needs.log.logMessage("Authentication status ", m_bDidAuthenticate);
     return m_bDidAuthenticate;
 }
 
 void CommandRunner::dethenticate() {
+    m_wereRefused = false;
     if (!m_authRef)
         return;
     m_needs.administrator.freeSession();
@@ -103,7 +105,9 @@ std::string CommandRunner::execCmdLineApp(std::string_view tool, const Params& p
     std::string result;
     m_needs.log.logMessage("Executing " + std::string(tool));
     try {
-        auto [status, output] = m_needs.tools.capture(callOf(tool, params));
+        const bool isBareName = tool.find('/') == std::string_view::npos;
+        auto [status, output] =
+            m_needs.tools.capture(callOf(isBareName ? inResources(tool) : tool, params));
         if (!output.empty())
             output.pop_back();
         result = status == 0 ? bytesAsCharacters(output) : "ERROR";
@@ -113,6 +117,14 @@ std::string CommandRunner::execCmdLineApp(std::string_view tool, const Params& p
         m_needs.log.logException();
     }
     return result;
+}
+
+ExitStatus CommandRunner::askTool(std::string_view tool, const Params& params) {
+    try {
+        return ExitStatus::of(m_needs.tools.capture(callOf(tool, params)).status);
+    } catch (const ports::PlatformError&) {
+        return ExitStatus::of(ports::Tools::kCannotStart);
+    }
 }
 
 } // namespace ec

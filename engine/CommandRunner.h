@@ -45,7 +45,7 @@ class CommandRunner {
     void dethenticate();
 
     /// Were the rights asked for in this session and not given?
-    bool rightsWereRefused() const { return m_authRef && !m_bDidAuthenticate; }
+    bool rightsWereRefused() const { return m_wereRefused; }
 
     /// `launchApp:params:` runs the tool as the user with the program's own output. Answers its
     /// exit status: 127 when it can't be started, 128 and the signal's number when one killed it.
@@ -67,8 +67,13 @@ class CommandRunner {
 
     /// `execCmdLineApp:withParams:` answers the tool's standard output less its last character
     /// (commonly the line feed), "ERROR" when its status is not 0, and the empty text when it can't
-    /// be started. Each byte of output is one character.
+    /// be started. Each byte of output is one character. A tool that is named without a path is one
+    /// of the resource folder's; the log has its name.
     std::string execCmdLineApp(std::string_view tool, const Params& params);
+
+    /// Asks a tool that changes nothing: runs it as the user without a line in the log and keeps
+    /// its output from being seen. Answers as `launchApp` does.
+    ExitStatus askTool(std::string_view tool, const Params& params);
 
     /// First as the user, then once as administrator: 0 when either run went well, else 1.
     /// `beforeSecond` runs between the two.
@@ -91,6 +96,7 @@ class CommandRunner {
     Needs m_needs;
     bool m_authRef = false; ///< does an authorization session stand?
     bool m_bDidAuthenticate = false;
+    bool m_wereRefused = false; ///< also where no session could be made
 };
 
 } // namespace ec

@@ -15,6 +15,8 @@ inline constexpr std::string_view kDestinationFolder = "/Applications/Scrivel 21
 inline constexpr std::string_view kArchiveName = "/Scrivel.zip";
 /// The archive's top folder.
 inline constexpr std::string_view kArchiveTopFolder = "Scrivel";
+/// Beside the application. Two separators in a row count as one.
+inline constexpr std::string_view kContentBundle = "Product-Support//Content.bundle";
 inline constexpr std::string_view kFolderIconName = "Scrivel_Folder.icns";
 
 } // namespace ec::product

@@ -66,6 +66,17 @@ std::string bytesAsCharacters(std::string_view bytes) {
     return text;
 }
 
+std::string charactersAsBytes(std::string_view text) {
+    std::string bytes;
+    bytes.reserve(text.size());
+    for (std::size_t i = 0; i < text.size(); ++i) {
+        const auto lead = static_cast<unsigned char>(text[i]);
+        const bool isPair = (lead & 0xFE) == 0xC2 && i + 1 < text.size();
+        bytes += isPair ? static_cast<char>((lead & 0x03) << 6 | (text[++i] & 0x3F)) : text[i];
+    }
+    return bytes;
+}
+
 void InstallLog::logMessage(std::string_view message) {
     std::string line = dateText(m_needs.clock.now());
     line.reserve(line.size() + message.size() + 2);

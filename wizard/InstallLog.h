@@ -27,6 +27,8 @@ inline constexpr std::string_view gLogName = "~/Library/Logs/Scrivel 21 Stub Ins
 /// A tool's output as text: nothing is decoded, each byte is one character, those above 127 as
 /// Latin-1 has them. Answers UTF-8.
 std::string bytesAsCharacters(std::string_view bytes);
+/// And back: the tool's output as it was.
+std::string charactersAsBytes(std::string_view text);
 
 class InstallLog {
   public:

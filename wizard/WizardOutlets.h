@@ -13,6 +13,7 @@ inline constexpr int kCount = 29;
 inline constexpr int kLicence = 5;
 inline constexpr int kComponents = 6;
 inline constexpr int kQuitWord = 12;
+inline constexpr int kNothingFound = 18; ///< the updater's; it sends its reader to the log
 inline constexpr int kLocations = 25;
 } // namespace page
 
@@ -28,7 +29,7 @@ struct WizardOutlets {
     controls::Button backBtn;
     controls::Button cancelBtn;
     controls::Button helpBtn;
-    controls::Button logBtn; ///< opens the install log; in sight on summaries
+    controls::Button logBtn; ///< opens the install log; in sight on the last pages
 
     // 0 scanning, 10 updating
     controls::Progress custProgress;

@@ -10,6 +10,7 @@
 #include "platform/ports/Bundles.h"
 #include "platform/ports/SystemPlaces.h"
 #include "wizard/ComponentOutcome.h"
+#include "wizard/CopyOutcome.h"
 
 namespace ec {
 
@@ -41,6 +42,8 @@ struct WizardSession {
 
     /// What was done since the wizard was opened, in order.
     std::vector<ComponentOutcome> outcomes;
+    /// The copies that the updater has found since then, in order.
+    std::vector<CopyOutcome> copies;
 };
 
 } // namespace ec

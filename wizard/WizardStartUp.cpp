@@ -72,10 +72,12 @@ std::int32_t WizardStartUp::show(std::uint32_t launchMode, const std::function<v
 }
 
 /// What an earlier run of the same wizard has decided must not lead this one: a confirmed uninstall
-/// above all.
+/// above all, nor must a copy be offered that was found then.
 void WizardStartUp::beginAnew() {
     m_needs.session.m_bUninstall = false;
     m_needs.session.outcomes.clear();
+    m_needs.session.copies.clear();
+    m_needs.patcher.forgetScrivels();
     m_needs.outlets.uninstallBtn.setEnabled(true);
     m_needs.outlets.locationsBtn.setEnabled(true);
     m_needs.outlets.cancelBtn.setEnabled(true);

@@ -8,6 +8,7 @@
 #include <string>
 #include <string_view>
 
+#include "patcher/Patcher.h"
 #include "platform/ports/FrontEnd.h"
 #include "platform/ports/LocalizedTexts.h"
 #include "platform/ports/SystemLog.h"
@@ -33,6 +34,7 @@ class WizardStartUp {
         Breadcrumbs& breadcrumbs;
         WordStartupFolders& startupFolders;
         ComponentOutline& components;
+        Patcher& patcher;
         WizardTexts& texts;
         ports::InterfaceFiles& interfaceFiles;
         ports::ModalLoop& modalLoop;

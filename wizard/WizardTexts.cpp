@@ -69,6 +69,26 @@ ports::TextKey sentenceFor(const ComponentOutcome& outcome) {
                            : ports::TextKey("%@ is not installed, as before.");
 }
 
+/// And of one copy.
+ports::TextKey sentenceFor(const CopyOutcome& copy) {
+    using State = CopyOutcome::State;
+    switch (copy.state) {
+    case State::updated:
+        return "“%@” was updated.";
+    case State::refused:
+    case State::failed:
+        return "“%@” could not be updated.";
+    case State::current:
+        return "“%@” is up to date already.";
+    case State::unfit:
+        return "This update does not fit “%@”.";
+    case State::offered:
+    case State::declined:
+        break;
+    }
+    return "“%@” was left as it is.";
+}
+
 } // namespace
 
 WizardTexts::WizardTexts(Needs needs) : m_needs(needs) {
@@ -132,19 +152,36 @@ std::string WizardTexts::lineFor(const ComponentOutcome& outcome) const {
     return line;
 }
 
+std::string WizardTexts::lineFor(const CopyOutcome& copy) const {
+    std::string line = formatted(m_needs.texts.lookUp(sentenceFor(copy)), {copy.folder});
+    if (const auto reason = copy.reason())
+        line += " " + m_needs.texts.lookUp(*reason);
+    return line;
+}
+
+std::vector<WizardTexts::SummaryLine> WizardTexts::summaryLines() const {
+    std::vector<SummaryLine> lines;
+    for (const ComponentOutcome& outcome : m_needs.session.outcomes)
+        lines.push_back({lineFor(outcome), outcome.result != ComponentOutcome::Result::unchanged,
+                         !outcome.succeeded()});
+    for (const CopyOutcome& copy : m_needs.session.copies)
+        lines.push_back({lineFor(copy), copy.wasAccepted(), !copy.succeeded()});
+    return lines;
+}
+
 controls::StyledText WizardTexts::summary() const {
-    if (m_needs.session.outcomes.empty())
+    const std::vector<SummaryLine> lines = summaryLines();
+    if (lines.empty())
         return controls::StyledText::plain(m_needs.texts.lookUp("Nothing was changed."));
     controls::StyledText text;
     for (const bool changes : {true, false}) { // what is as it was comes last, by itself
         const bool apart = !text.runs.empty();
         bool isFirst = true;
-        for (const ComponentOutcome& outcome : m_needs.session.outcomes) {
-            if (changes == (outcome.result == ComponentOutcome::Result::unchanged))
+        for (const SummaryLine& line : lines) {
+            if (changes != line.changed)
                 continue;
             const bool parts = std::exchange(isFirst, false) && apart;
-            text.runs.push_back(
-                {(parts ? "\n" : "") + lineFor(outcome) + "\n", {}, !outcome.succeeded()});
+            text.runs.push_back({(parts ? "\n" : "") + line.text + "\n", {}, line.failed});
         }
     }
     text.paragraphSpacing = 4;
@@ -157,7 +194,7 @@ void WizardTexts::pageChanged() {
         if (page != its)
             (m_needs.outlets.*indicator).stopAnimation();
     const auto* shown = std::ranges::find(kSummaries, page, &PageSummary::page);
-    m_needs.outlets.logBtn.setHidden(shown == kSummaries.end());
+    m_needs.outlets.logBtn.setHidden(shown == kSummaries.end() && page != page::kNothingFound);
     if (shown != kSummaries.end())
         (m_needs.outlets.*shown->view).setText(summary());
 }

@@ -6,6 +6,7 @@
 
 #include <string>
 #include <string_view>
+#include <vector>
 
 #include "platform/ports/FrontEnd.h"
 #include "platform/ports/LocalizedTexts.h"
@@ -39,8 +40,8 @@ class WizardTexts {
     /// Shows the install log.
     void showLog();
 
-    /// What became of each component since the wizard was opened, a line for each; those that are
-    /// as they were come last.
+    /// What became of each component and each copy since the wizard was opened, a line for each;
+    /// those that are as they were come last.
     controls::StyledText summary() const;
 
   private:
@@ -53,9 +54,17 @@ class WizardTexts {
         WizardTexts& m_texts;
     };
 
+    struct SummaryLine {
+        std::string text;
+        bool changed = false; ///< or should have
+        bool failed = false;
+    };
+
     void pageChanged();
     std::string missing(std::string_view name) const;
     std::string lineFor(const ComponentOutcome& outcome) const;
+    std::string lineFor(const CopyOutcome& copy) const;
+    std::vector<SummaryLine> summaryLines() const;
 
     Needs m_needs;
     PageWatcher m_pageWatcher{*this};

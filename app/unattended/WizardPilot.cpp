@@ -6,8 +6,8 @@ namespace app {
 
 namespace {
 
-/// More than any mode has rows, several times over.
-constexpr int kMostPresses = 100;
+/// More than any mode has rows and any computer copies to update, several times over.
+constexpr int kMostPresses = 500;
 /// The first cell of `agreeBtns`.
 constexpr int kAgreeRow = 0;
 

@@ -6,6 +6,7 @@
 #include <map>
 #include <system_error>
 
+#include "cp/CaseFolding.h"
 #include "cp/FileStamp.h"
 
 namespace linuxhost {
@@ -19,13 +20,21 @@ bool isLink(const std::string& path) {
     return std::filesystem::is_symlink(path, error);
 }
 
+/// Letter case does not count in the extension, as on the platform.
+bool isBundleName(std::string_view name) {
+    constexpr std::string_view kExtension = ".app";
+    return name.size() >= kExtension.size() &&
+           Corvaldine::CP::equal_ignoring_case(name.substr(name.size() - kExtension.size()),
+                                               kExtension);
+}
+
 } // namespace
 
 InstalledBundles::InstalledBundles(const std::vector<std::string>& folders) {
     for (const std::string& folder : folders)
-        m_walks.emplace_back(
-            folder, FolderWalk([](std::string_view name) { return name.ends_with(".app"); },
-                               FolderWalk::Memory::folders));
+        m_walks.emplace_back(folder,
+                             FolderWalk([](std::string_view name) { return isBundleName(name); },
+                                        FolderWalk::Memory::folders));
 }
 
 std::vector<std::string> InstalledBundles::paths() {

@@ -15,10 +15,10 @@ class InstalledBundles {
   public:
     explicit InstalledBundles(const std::vector<std::string>& folders);
 
-    /// The paths of all items "X.app" below the folders, in the order of the folders and in each in
-    /// that of FolderWalk. What is no bundle, but only called so, is among them. Bundles are never
-    /// looked into and links to folders not followed, but one called "X.app" counts. Folders that
-    /// can't be read are passed over.
+    /// The paths of all items "X.app" below the folders, in whatever letter case, in the order of
+    /// the folders and in each in that of FolderWalk. What is no bundle, but only called so, is
+    /// among them. Bundles are never looked into and links to folders not followed, but one called
+    /// "X.app" counts. Folders that can't be read are passed over.
     std::vector<std::string> paths();
 
   private:

@@ -1,5 +1,6 @@
 #include "platform/linux/ProcApplications.h"
 
+#include <algorithm>
 #include <charconv>
 #include <fcntl.h>
 #include <filesystem>
@@ -7,6 +8,7 @@
 #include <unistd.h>
 #include <utility>
 
+#include "cp/CaseFolding.h"
 #include "platform/linux/ProcessBundle.h"
 #include "platform/posix/ChildProcess.h"
 
@@ -63,10 +65,33 @@ bool ProcApplications::isRunning(std::string_view bundleIdentifier) {
 }
 
 std::vector<std::string> ProcApplications::pathsFor(std::string_view bundleIdentifier) {
-    std::vector<std::string> paths = m_installed.paths();
-    std::erase_if(paths, [&](const std::string& bundle) {
-        return m_identifiers.identifierOf(bundle) != bundleIdentifier;
+    return installedWhere([&](const std::string& bundle) {
+        return m_identifiers.identifierOf(bundle) == bundleIdentifier;
     });
+}
+
+std::optional<std::vector<std::string>>
+ProcApplications::pathsForDocument(std::string_view document) {
+    const std::string extension = fs::path(document).extension().string();
+    if (extension.size() < 2) // the dot alone is none either
+        return std::nullopt;
+    std::vector<std::string> paths = installedWhere([&](const std::string& bundle) {
+        return std::ranges::any_of(m_needs.bundles.infoStringsOfEach(
+                                       bundle, "CFBundleDocumentTypes", "CFBundleTypeExtensions"),
+                                   [&](const std::string& declared) {
+                                       return Corvaldine::CP::equal_ignoring_case("." + declared,
+                                                                                  extension);
+                                   });
+    });
+    if (paths.empty())
+        return std::nullopt;
+    return paths;
+}
+
+std::vector<std::string>
+ProcApplications::installedWhere(const std::function<bool(const std::string&)>& isWanted) {
+    std::vector<std::string> paths = m_installed.paths();
+    std::erase_if(paths, [&](const std::string& bundle) { return !isWanted(bundle); });
     return eachOnce(paths);
 }
 

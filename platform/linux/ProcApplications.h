@@ -3,6 +3,8 @@
 // "Contents/MacOS". Made by the composition root; main thread only.
 #pragma once
 
+#include <functional>
+#include <optional>
 #include <string>
 #include <vector>
 
@@ -34,6 +36,10 @@ class ProcApplications final : public ports::Applications {
     /// is named once, by its own path where that is among them. Never throws.
     std::vector<std::string> pathsFor(std::string_view bundleIdentifier) override;
 
+    /// Of the same bundles those whose "CFBundleDocumentTypes" declare the document's extension.
+    /// Nothing is known of a document whose name has none.
+    std::optional<std::vector<std::string>> pathsForDocument(std::string_view document) override;
+
     /// Starts the bundle's "CFBundleExecutable", or without one the file named as the bundle is.
     /// An executable that does not lie in the bundle's "Contents/MacOS" is refused. The application
     /// gets neither this program's input nor, unless they are a terminal, its outputs: who waits
@@ -41,6 +47,9 @@ class ProcApplications final : public ports::Applications {
     bool launch(const std::string& path) override;
 
   private:
+    /// The installed bundles of which `isWanted` is true, each once.
+    std::vector<std::string>
+    installedWhere(const std::function<bool(const std::string&)>& isWanted);
     bool isBelowRoot(const std::string& bundle) const;
 
     Needs m_needs;

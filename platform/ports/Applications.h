@@ -1,6 +1,7 @@
 // Applications as the host knows them: where they are, which run, and how one is launched.
 #pragma once
 
+#include <optional>
 #include <string>
 #include <string_view>
 #include <vector>
@@ -18,6 +19,12 @@ class Applications {
     /// an order that stays the same; empty for none. Letter case counts. Throws PlatformError where
     /// the host's registry does.
     virtual std::vector<std::string> pathsFor(std::string_view bundleIdentifier) = 0;
+
+    /// The paths of the application bundles that open documents like the one at `document`, in
+    /// whatever role, each once, in an order that stays the same. None when the host knows no
+    /// application at all for it. The document's kind is told by its name; letter case does not
+    /// count. Never throws.
+    virtual std::optional<std::vector<std::string>> pathsForDocument(std::string_view document) = 0;
 
     /// Starts the application bundle at `path` in a session of its own and does not wait for it.
     /// False when it can't be started; nothing else happens then.

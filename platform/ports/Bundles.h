@@ -34,6 +34,13 @@ class Bundles {
     virtual std::vector<std::string> infoStrings(const std::string& path,
                                                  std::string_view dictionaryKey,
                                                  std::string_view arrayKey) = 0;
+
+    /// The strings of the arrays under `arrayKey` in all dictionaries of the array under `listKey`
+    /// of that information dictionary, in their order; other elements are passed over. Empty when
+    /// there is none, for whatever reason.
+    virtual std::vector<std::string> infoStringsOfEach(const std::string& path,
+                                                       std::string_view listKey,
+                                                       std::string_view arrayKey) = 0;
 };
 
 } // namespace ports

@@ -135,6 +135,16 @@ std::optional<std::vector<std::string>> Plist::array(std::string_view dictionary
     return stringsOf(itemOf(item(dictionaryKey), key));
 }
 
+std::vector<std::string> Plist::stringsOfEach(std::string_view listKey,
+                                              std::string_view key) const {
+    std::vector<std::string> all;
+    forEachElement(item(listKey), [&](plist_t element) {
+        if (const auto strings = stringsOf(itemOf(element, key)))
+            all.insert(all.end(), strings->begin(), strings->end());
+    });
+    return all;
+}
+
 void Plist::setString(std::string_view key, std::string_view value) {
     if (isDictionary())
         plist_dict_set_item(m_list.get(), std::string(key).c_str(),

@@ -35,6 +35,10 @@ class Plist {
     std::optional<std::vector<std::string>> array(std::string_view dictionaryKey,
                                                   std::string_view key) const;
 
+    /// The strings of the arrays under `key` in all dictionaries of the array under `listKey`, in
+    /// their order, other elements left out. Empty where there is no such array.
+    std::vector<std::string> stringsOfEach(std::string_view listKey, std::string_view key) const;
+
     /// Each changes the list's dictionary; nothing happens when the list is none. Texts end at a
     /// zero. A value that is replaced keeps its place; new ones come last. Added strings
     /// end at a zero too, which a binary list may hold and XML can't.

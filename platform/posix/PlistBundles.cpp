@@ -43,4 +43,11 @@ std::vector<std::string> PlistBundles::infoStrings(const std::string& path,
                : std::vector<std::string>();
 }
 
+std::vector<std::string> PlistBundles::infoStringsOfEach(const std::string& path,
+                                                         std::string_view listKey,
+                                                         std::string_view arrayKey) {
+    const auto information = informationOf(path);
+    return information ? information->stringsOfEach(listKey, arrayKey) : std::vector<std::string>();
+}
+
 } // namespace posix

@@ -20,6 +20,8 @@ class PlistBundles final : public ports::Bundles {
     std::optional<std::string> infoString(const std::string& path, std::string_view key) override;
     std::vector<std::string> infoStrings(const std::string& path, std::string_view dictionaryKey,
                                          std::string_view arrayKey) override;
+    std::vector<std::string> infoStringsOfEach(const std::string& path, std::string_view listKey,
+                                               std::string_view arrayKey) override;
 
   private:
     std::string m_executable;

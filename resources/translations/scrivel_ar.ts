@@ -200,6 +200,15 @@
 <message><source>“%@” could not be written.</source><translation>تعذّرت كتابة «%@».</translation></message>
 <message><source>“%@” is still there.</source><translation>«%@» ما زال موجودًا.</translation></message>
 <message><source>It was not chosen who can use it.</source><translation>لم يُحدَّد من يمكنه استخدامه.</translation></message>
+<message><source>&#10;A copy of Scrivel was found at the following location:&#10;&#10;%@&#10;&#10;Would you like to update this copy?&#10;</source><translation>&#10;عُثر على نسخة من Scrivel في الموقع التالي:&#10;&#10;⁦%@⁩&#10;&#10;هل تريد تحديث هذه النسخة؟&#10;</translation></message>
+<message><source>&#10;An error occurred while attempting to update a copy of Scrivel at this location:&#10;&#10;%@&#10;&#10;Would you like to try again?&#10;</source><translation>&#10;حدث خطأ أثناء تحديث نسخة من Scrivel في هذا الموقع:&#10;&#10;⁦%@⁩&#10;&#10;هل تريد المحاولة مرة أخرى؟&#10;</translation></message>
+<message><source>Updating: %@</source><translation>جارٍ تحديث: ⁦%@⁩</translation></message>
+<message><source>“%@” was updated.</source><translation>تم تحديث «⁦%@⁩».</translation></message>
+<message><source>“%@” could not be updated.</source><translation>تعذّر تحديث «⁦%@⁩».</translation></message>
+<message><source>“%@” was left as it is.</source><translation>تُركت «⁦%@⁩» كما هي.</translation></message>
+<message><source>“%@” is up to date already.</source><translation>النسخة «⁦%@⁩» محدَّثة بالفعل.</translation></message>
+<message><source>This update does not fit “%@”.</source><translation>هذا التحديث لا يناسب «⁦%@⁩».</translation></message>
+<message><source>The update did not take effect.</source><translation>لم يسرِ مفعول التحديث.</translation></message>
 <message><source>No copy of Microsoft Word was found.</source><translation>لم يُعثر على أي نسخة من Microsoft Word.</translation></message>
 <message><source>No copy of Microsoft Word 2016 or 2019 was found.</source><translation>لم يُعثر على أي نسخة من Microsoft Word 2016 أو 2019.</translation></message>
 <message><source>Output styles</source><translation>أنماط الإخراج</translation></message>

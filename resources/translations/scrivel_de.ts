@@ -200,6 +200,15 @@
 <message><source>“%@” could not be written.</source><translation>„%@“ konnte nicht geschrieben werden.</translation></message>
 <message><source>“%@” is still there.</source><translation>„%@“ ist noch vorhanden.</translation></message>
 <message><source>It was not chosen who can use it.</source><translation>Es wurde nicht gewählt, wer es benutzen kann.</translation></message>
+<message><source>&#10;A copy of Scrivel was found at the following location:&#10;&#10;%@&#10;&#10;Would you like to update this copy?&#10;</source><translation>&#10;An folgendem Ort wurde eine Kopie von Scrivel gefunden:&#10;&#10;%@&#10;&#10;Möchten Sie diese Kopie aktualisieren?&#10;</translation></message>
+<message><source>&#10;An error occurred while attempting to update a copy of Scrivel at this location:&#10;&#10;%@&#10;&#10;Would you like to try again?&#10;</source><translation>&#10;Beim Aktualisieren einer Kopie von Scrivel an diesem Ort ist ein Fehler aufgetreten:&#10;&#10;%@&#10;&#10;Möchten Sie es noch einmal versuchen?&#10;</translation></message>
+<message><source>Updating: %@</source><translation>Wird aktualisiert: %@</translation></message>
+<message><source>“%@” was updated.</source><translation>„%@“ wurde aktualisiert.</translation></message>
+<message><source>“%@” could not be updated.</source><translation>„%@“ konnte nicht aktualisiert werden.</translation></message>
+<message><source>“%@” was left as it is.</source><translation>„%@“ wurde nicht verändert.</translation></message>
+<message><source>“%@” is up to date already.</source><translation>„%@“ ist bereits aktuell.</translation></message>
+<message><source>This update does not fit “%@”.</source><translation>Dieses Update passt nicht zu „%@“.</translation></message>
+<message><source>The update did not take effect.</source><translation>Das Update wurde nicht wirksam.</translation></message>
 <message><source>No copy of Microsoft Word was found.</source><translation>Microsoft Word wurde nicht gefunden.</translation></message>
 <message><source>No copy of Microsoft Word 2016 or 2019 was found.</source><translation>Microsoft Word 2016 oder 2019 wurde nicht gefunden.</translation></message>
 <message><source>Output styles</source><translation>Ausgabestile</translation></message>

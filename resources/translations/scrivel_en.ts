@@ -200,6 +200,15 @@
 <message><source>“%@” could not be written.</source><translation>“%@” could not be written.</translation></message>
 <message><source>“%@” is still there.</source><translation>“%@” is still there.</translation></message>
 <message><source>It was not chosen who can use it.</source><translation>It was not chosen who can use it.</translation></message>
+<message><source>&#10;A copy of Scrivel was found at the following location:&#10;&#10;%@&#10;&#10;Would you like to update this copy?&#10;</source><translation>&#10;A copy of Scrivel was found at the following location:&#10;&#10;%@&#10;&#10;Would you like to update this copy?&#10;</translation></message>
+<message><source>&#10;An error occurred while attempting to update a copy of Scrivel at this location:&#10;&#10;%@&#10;&#10;Would you like to try again?&#10;</source><translation>&#10;An error occurred while attempting to update a copy of Scrivel at this location:&#10;&#10;%@&#10;&#10;Would you like to try again?&#10;</translation></message>
+<message><source>Updating: %@</source><translation>Updating: %@</translation></message>
+<message><source>“%@” was updated.</source><translation>“%@” was updated.</translation></message>
+<message><source>“%@” could not be updated.</source><translation>“%@” could not be updated.</translation></message>
+<message><source>“%@” was left as it is.</source><translation>“%@” was left as it is.</translation></message>
+<message><source>“%@” is up to date already.</source><translation>“%@” is up to date already.</translation></message>
+<message><source>This update does not fit “%@”.</source><translation>This update does not fit “%@”.</translation></message>
+<message><source>The update did not take effect.</source><translation>The update did not take effect.</translation></message>
 <message><source>No copy of Microsoft Word was found.</source><translation>No copy of Microsoft Word was found.</translation></message>
 <message><source>No copy of Microsoft Word 2016 or 2019 was found.</source><translation>No copy of Microsoft Word 2016 or 2019 was found.</translation></message>
 <message><source>Output styles</source><translation>Output styles</translation></message>

@@ -200,6 +200,15 @@
 <message><source>“%@” could not be written.</source><translation>No se pudo escribir «%@».</translation></message>
 <message><source>“%@” is still there.</source><translation>«%@» sigue ahí.</translation></message>
 <message><source>It was not chosen who can use it.</source><translation>No se eligió quién puede usarlo.</translation></message>
+<message><source>&#10;A copy of Scrivel was found at the following location:&#10;&#10;%@&#10;&#10;Would you like to update this copy?&#10;</source><translation>&#10;Se ha encontrado una copia de Scrivel en esta ubicación:&#10;&#10;%@&#10;&#10;¿Desea actualizar esta copia?&#10;</translation></message>
+<message><source>&#10;An error occurred while attempting to update a copy of Scrivel at this location:&#10;&#10;%@&#10;&#10;Would you like to try again?&#10;</source><translation>&#10;Se ha producido un error al actualizar una copia de Scrivel en esta ubicación:&#10;&#10;%@&#10;&#10;¿Desea volver a intentarlo?&#10;</translation></message>
+<message><source>Updating: %@</source><translation>Actualizando: %@</translation></message>
+<message><source>“%@” was updated.</source><translation>«%@» se ha actualizado.</translation></message>
+<message><source>“%@” could not be updated.</source><translation>No se ha podido actualizar «%@».</translation></message>
+<message><source>“%@” was left as it is.</source><translation>«%@» se ha dejado como estaba.</translation></message>
+<message><source>“%@” is up to date already.</source><translation>«%@» ya está al día.</translation></message>
+<message><source>This update does not fit “%@”.</source><translation>Esta actualización no corresponde a «%@».</translation></message>
+<message><source>The update did not take effect.</source><translation>La actualización no ha surtido efecto.</translation></message>
 <message><source>No copy of Microsoft Word was found.</source><translation>No se encontró ninguna copia de Microsoft Word.</translation></message>
 <message><source>No copy of Microsoft Word 2016 or 2019 was found.</source><translation>No se encontró ninguna copia de Microsoft Word 2016 o 2019.</translation></message>
 <message><source>Output styles</source><translation>Estilos de salida</translation></message>

@@ -200,6 +200,15 @@
 <message><source>“%@” could not be written.</source><translation>Impossible d’écrire « %@ ».</translation></message>
 <message><source>“%@” is still there.</source><translation>« %@ » est toujours là.</translation></message>
 <message><source>It was not chosen who can use it.</source><translation>Il n’a pas été choisi qui peut l’utiliser.</translation></message>
+<message><source>&#10;A copy of Scrivel was found at the following location:&#10;&#10;%@&#10;&#10;Would you like to update this copy?&#10;</source><translation>&#10;Une copie de Scrivel a été trouvée à cet emplacement :&#10;&#10;%@&#10;&#10;Voulez-vous mettre à jour cette copie ?&#10;</translation></message>
+<message><source>&#10;An error occurred while attempting to update a copy of Scrivel at this location:&#10;&#10;%@&#10;&#10;Would you like to try again?&#10;</source><translation>&#10;Une erreur s’est produite lors de la mise à jour d’une copie de Scrivel à cet emplacement :&#10;&#10;%@&#10;&#10;Voulez-vous réessayer ?&#10;</translation></message>
+<message><source>Updating: %@</source><translation>Mise à jour : %@</translation></message>
+<message><source>“%@” was updated.</source><translation>« %@ » a été mis à jour.</translation></message>
+<message><source>“%@” could not be updated.</source><translation>« %@ » n’a pas pu être mis à jour.</translation></message>
+<message><source>“%@” was left as it is.</source><translation>« %@ » a été laissé tel quel.</translation></message>
+<message><source>“%@” is up to date already.</source><translation>« %@ » est déjà à jour.</translation></message>
+<message><source>This update does not fit “%@”.</source><translation>Cette mise à jour ne convient pas à « %@ ».</translation></message>
+<message><source>The update did not take effect.</source><translation>La mise à jour n’a pas pris effet.</translation></message>
 <message><source>No copy of Microsoft Word was found.</source><translation>Aucune copie de Microsoft Word n’a été trouvée.</translation></message>
 <message><source>No copy of Microsoft Word 2016 or 2019 was found.</source><translation>Aucune copie de Microsoft Word 2016 ou 2019 n’a été trouvée.</translation></message>
 <message><source>Output styles</source><translation>Styles de sortie</translation></message>

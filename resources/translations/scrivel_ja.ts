@@ -200,6 +200,15 @@
 <message><source>“%@” could not be written.</source><translation>「%@」に書き込めませんでした。</translation></message>
 <message><source>“%@” is still there.</source><translation>「%@」がまだ残っています。</translation></message>
 <message><source>It was not chosen who can use it.</source><translation>使用できるユーザが選択されていません。</translation></message>
+<message><source>&#10;A copy of Scrivel was found at the following location:&#10;&#10;%@&#10;&#10;Would you like to update this copy?&#10;</source><translation>&#10;次の場所にScrivelのコピーが見つかりました：&#10;&#10;%@&#10;&#10;このコピーをアップデートしますか？&#10;</translation></message>
+<message><source>&#10;An error occurred while attempting to update a copy of Scrivel at this location:&#10;&#10;%@&#10;&#10;Would you like to try again?&#10;</source><translation>&#10;次の場所にあるScrivelのコピーのアップデート中にエラーが起きました：&#10;&#10;%@&#10;&#10;もう一度試しますか？&#10;</translation></message>
+<message><source>Updating: %@</source><translation>アップデート中：%@</translation></message>
+<message><source>“%@” was updated.</source><translation>「%@」をアップデートしました。</translation></message>
+<message><source>“%@” could not be updated.</source><translation>「%@」をアップデートできませんでした。</translation></message>
+<message><source>“%@” was left as it is.</source><translation>「%@」はそのままです。</translation></message>
+<message><source>“%@” is up to date already.</source><translation>「%@」はすでに最新です。</translation></message>
+<message><source>This update does not fit “%@”.</source><translation>このアップデートは「%@」には適用できません。</translation></message>
+<message><source>The update did not take effect.</source><translation>アップデートが反映されていません。</translation></message>
 <message><source>No copy of Microsoft Word was found.</source><translation>Microsoft Word が見つかりませんでした。</translation></message>
 <message><source>No copy of Microsoft Word 2016 or 2019 was found.</source><translation>Microsoft Word 2016 または 2019 が見つかりませんでした。</translation></message>
 <message><source>Output styles</source><translation>出力スタイル</translation></message>

@@ -200,6 +200,15 @@
 <message><source>“%@” could not be written.</source><translation>无法写入“%@”。</translation></message>
 <message><source>“%@” is still there.</source><translation>“%@”仍然存在。</translation></message>
 <message><source>It was not chosen who can use it.</source><translation>未选择可使用它的用户。</translation></message>
+<message><source>&#10;A copy of Scrivel was found at the following location:&#10;&#10;%@&#10;&#10;Would you like to update this copy?&#10;</source><translation>&#10;在以下位置找到了 Scrivel 的副本：&#10;&#10;%@&#10;&#10;要更新此副本吗？&#10;</translation></message>
+<message><source>&#10;An error occurred while attempting to update a copy of Scrivel at this location:&#10;&#10;%@&#10;&#10;Would you like to try again?&#10;</source><translation>&#10;更新此位置的 Scrivel 副本时出错：&#10;&#10;%@&#10;&#10;要重试吗？&#10;</translation></message>
+<message><source>Updating: %@</source><translation>正在更新：%@</translation></message>
+<message><source>“%@” was updated.</source><translation>“%@”已更新。</translation></message>
+<message><source>“%@” could not be updated.</source><translation>无法更新“%@”。</translation></message>
+<message><source>“%@” was left as it is.</source><translation>“%@”保持原样。</translation></message>
+<message><source>“%@” is up to date already.</source><translation>“%@”已是最新。</translation></message>
+<message><source>This update does not fit “%@”.</source><translation>此更新不适用于“%@”。</translation></message>
+<message><source>The update did not take effect.</source><translation>更新未生效。</translation></message>
 <message><source>No copy of Microsoft Word was found.</source><translation>未找到 Microsoft Word。</translation></message>
 <message><source>No copy of Microsoft Word 2016 or 2019 was found.</source><translation>未找到 Microsoft Word 2016 或 2019。</translation></message>
 <message><source>Output styles</source><translation>输出样式</translation></message>

@@ -122,4 +122,44 @@ TEST_F(WizardInTheWindow, ATerminationDuringAQuestionDeclinesAndLeavesNothing) {
     EXPECT_TRUE(fs::is_empty(temporary));
 }
 
+TEST_F(WizardInTheWindow, KeysThatArePressedWhileACopyIsUpdatedAnswerNothing) {
+    if (!isRoot())
+        GTEST_SKIP() << "it needs an administrator's rights";
+    const fs::path tool = bundle / "Contents/Resources/applyPatch";
+    fs::remove(tool);
+    std::ofstream(tool) << "#!/bin/sh\n"
+                           "case \"$5\" in -n | -C | --verify) exit 0 ;; esac\n"
+                           "echo \"$2\" >>'"
+                        << (folder / "applied").string() << "'\nwhile ! [ -e '"
+                        << (folder / "go on").string() << "' ]; do sleep 0.02; done\n";
+    fs::permissions(tool, static_cast<fs::perms>(0755));
+    for (const char* name : {"A", "B"}) {
+        const fs::path contents = root / "Applications" / name / "Scrivel 21.app/Contents";
+        fs::create_directories(contents);
+        std::ofstream(contents / "Info.plist")
+            << "<plist version=\"1.0\"><dict><key>CFBundleDocumentTypes</key><array><dict>"
+               "<key>CFBundleTypeExtensions</key><array><string>enl</string></array></dict>"
+               "</array></dict></plist>";
+    }
+    open("update");
+    awaitPage(14);
+    press(window(), "Return");
+    awaitPage(4);
+    press(window(), "Return");
+    awaitPage(16);
+    press(window(), "Return");
+    waitUntil("the tool", [this] { return fs::exists(folder / "applied"); });
+    pressAll(window(), {"Return", "Escape", "space", "Return"});
+    std::ofstream(folder / "go on");
+    awaitPage(16, 3); // the second of them had the text of an error
+    EXPECT_FALSE(hasEnded());
+    press(window(), "Escape");
+    const Result result = end();
+    EXPECT_EQ(result.exit, 1) << result.error;
+    EXPECT_EQ(contentsOf(folder / "applied"), (root / "Applications/A").string() + "\n");
+    ASSERT_EQ(result.of("copy").size(), 2u);
+    EXPECT_EQ(result.of("copy")[0]["state"], "updated");
+    EXPECT_EQ(result.of("copy")[1]["state"], "offered");
+}
+
 } // namespace

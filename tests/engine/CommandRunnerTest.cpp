@@ -50,8 +50,10 @@ TEST_F(CommandRunnerTest, ASessionThatCanNotBeMadeIsAFailureAndIsTriedAgainNextT
     host.administrator.sessionError = -60008;
     EXPECT_FALSE(controller.authenticate());
     EXPECT_EQ(host.administrator.prompts, 0);
+    EXPECT_TRUE(controller.rightsWereRefused());
     host.administrator.sessionError = 0;
     EXPECT_TRUE(controller.authenticate());
+    EXPECT_FALSE(controller.rightsWereRefused());
 }
 
 TEST_F(CommandRunnerTest, DroppingWithoutASessionDoesNothing) {
@@ -187,6 +189,35 @@ TEST_F(CommandRunnerTest, AToolThatCanNotStartRaisesAnExceptionLineAndGivesNoTex
     toolCanNotStart();
     EXPECT_EQ(controller.execCmdLineApp("/bin/none", std::nullopt), "");
     EXPECT_THAT(host.logged(), ElementsAre("Executing /bin/none", "Exception Raised "));
+}
+
+TEST_F(CommandRunnerTest, AToolNamedWithoutAPathIsOneOfTheResourcesAndTheLogHasItsName) {
+    toolAnswers(0, "text\n");
+    EXPECT_EQ(controller.execCmdLineApp("someTool", Params{{std::string("-x")}}), "text");
+    EXPECT_EQ(host.tools.calls.at(0).tool, host.bundles.resourceFolder + "/someTool");
+    EXPECT_THAT(host.logged(),
+                ElementsAre("Executing someTool", "execCmdLineApp someTool -x result: text"));
+}
+
+TEST_F(CommandRunnerTest, AskingAToolLeavesNoLineAndAnswersItsStatus) {
+    toolAnswers(0, "text");
+    toolAnswers(3, "text");
+    toolCanNotStart();
+    const Params arguments{{std::string("--verify")}};
+    EXPECT_EQ(controller.askTool("/bin/tool", arguments), ExitStatus::success());
+    EXPECT_EQ(controller.askTool("/bin/tool", arguments), ExitStatus::of(3));
+    EXPECT_EQ(controller.askTool("/bin/tool", arguments), ExitStatus::of(127));
+    EXPECT_THAT(host.logged(), IsEmpty());
+    EXPECT_EQ(host.tools.calls.at(1), (ports::ToolCall{"/bin/tool", {"--verify"}}));
+}
+
+TEST_F(CommandRunnerTest, AToolsOutputIsReadBackFromItsCharacters) {
+    std::string bytes;
+    for (int byte = 0; byte < 256; ++byte)
+        bytes += static_cast<char>(byte);
+    bytes += "日本語";
+    EXPECT_EQ(ec::charactersAsBytes(ec::bytesAsCharacters(bytes)), bytes);
+    EXPECT_EQ(ec::charactersAsBytes("\xC3"), "\xC3");
 }
 
 TEST_F(CommandRunnerTest, OutputBeyondAsciiIsOneCharacterForEachByte) {

@@ -34,6 +34,11 @@ class FakeBundles final : public ports::Bundles {
         const auto found = arrays.find({path, std::string(dictionaryKey), std::string(arrayKey)});
         return found == arrays.end() ? std::vector<std::string>() : found->second;
     }
+
+    std::vector<std::string> infoStringsOfEach(const std::string& path, std::string_view listKey,
+                                               std::string_view arrayKey) override {
+        return infoStrings(path, listKey, arrayKey);
+    }
 };
 
 } // namespace fakes

@@ -40,6 +40,10 @@ class CountingBundles final : public ports::Bundles {
                                          std::string_view arrayKey) override {
         return m_real.infoStrings(path, dictionaryKey, arrayKey);
     }
+    std::vector<std::string> infoStringsOfEach(const std::string& path, std::string_view listKey,
+                                               std::string_view arrayKey) override {
+        return m_real.infoStringsOfEach(path, listKey, arrayKey);
+    }
     int reads = 0;
 
   private:

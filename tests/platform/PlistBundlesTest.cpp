@@ -266,6 +266,20 @@ TEST(PlistBundles, OfAnArrayOnlyTheStringsAreGivenAndOtherTypesCountAsNone) {
     EXPECT_EQ(bundles.infoStrings(folder.path("X.app"), "A", "A"), Texts());
 }
 
+TEST(PlistBundles, OfAListOfDictionariesOnlyTheStringsOfArraysAreGiven) {
+    const tests::TemporaryFolder folder;
+    folder.write("X.app/Contents/Info.plist",
+                 xml("<dict><key>L</key><array><string>s</string><dict><key>A</key><string>t"
+                     "</string></dict><dict><key>A</key><array><integer>1</integer><string>u"
+                     "</string></array></dict></array><key>D</key><dict><key>A</key><array>"
+                     "<string>v</string></array></dict></dict>"));
+    PlistBundles bundles("/bin/true");
+    using Texts = std::vector<std::string>;
+    EXPECT_EQ(bundles.infoStringsOfEach(folder.path("X.app"), "L", "A"), Texts({"u"}));
+    EXPECT_EQ(bundles.infoStringsOfEach(folder.path("X.app"), "D", "A"), Texts());
+    EXPECT_EQ(bundles.infoStringsOfEach(folder.path("X.app"), "A", "A"), Texts());
+}
+
 TEST(PlistBundles, ABrokenInformationDictionaryIsAsGoodAsNone) {
     const tests::TemporaryFolder folder;
     folder.write("X.app/Contents/Info.plist", "<plist><dict><key>a</key>");

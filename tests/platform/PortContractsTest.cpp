@@ -100,6 +100,18 @@ struct RealBundles {
             name + "/Contents/Info.plist",
             dictionary("<key>Data</key><dict><key>Parts</key><array>" + body + "</array></dict>"));
     }
+    void giveListOfArrays(const std::string& name,
+                          const std::vector<std::vector<std::string>>& arrays) {
+        std::string body;
+        for (const auto& values : arrays) {
+            body += "<dict><key>Other</key><string>x</string><key>Parts</key><array>";
+            for (const std::string& value : values)
+                body += "<string>" + value + "</string>";
+            body += "</array></dict>";
+        }
+        folder.write(name + "/Contents/Info.plist",
+                     dictionary("<key>List</key><array>" + body + "</array>"));
+    }
     std::string path(const std::string& name) { return folder.path(name); }
     tests::TemporaryFolder folder;
     posix::PlistBundles bundles{folder.writeProgram("I.app/Contents/MacOS/I", "")};
@@ -111,6 +123,12 @@ struct PretendedBundles {
     }
     void giveArray(const std::string& name, const std::vector<std::string>& values) {
         bundles.arrays[{path(name), "Data", "Parts"}] = values;
+    }
+    void giveListOfArrays(const std::string& name,
+                          const std::vector<std::vector<std::string>>& arrays) {
+        for (const auto& values : arrays)
+            std::ranges::copy(values,
+                              std::back_inserter(bundles.arrays[{path(name), "List", "Parts"}]));
     }
     std::string path(const std::string& name) { return "/" + name; }
     fakes::FakeBundles bundles;
@@ -164,6 +182,16 @@ TYPED_TEST(BundlesContract, TheStringsOfAnArrayAreGivenInTheirOrder) {
     EXPECT_EQ(this->bundles.infoStrings(path, "Other", "Parts"), Texts());
     EXPECT_EQ(this->bundles.infoStrings(path, "", ""), Texts());
     EXPECT_EQ(this->bundles.infoStrings(this->host.path("Y.app"), "Data", "Parts"), Texts());
+}
+
+TYPED_TEST(BundlesContract, TheArraysOfAListOfDictionariesAreGivenOneAfterAnother) {
+    using Texts = std::vector<std::string>;
+    this->host.giveListOfArrays("X.app", {{"b", "a"}, {}, {"a", "c"}});
+    const std::string path = this->host.path("X.app");
+    EXPECT_EQ(this->bundles.infoStringsOfEach(path, "List", "Parts"), Texts({"b", "a", "a", "c"}));
+    EXPECT_EQ(this->bundles.infoStringsOfEach(path, "List", "parts"), Texts());
+    EXPECT_EQ(this->bundles.infoStringsOfEach(path, "Other", "Parts"), Texts());
+    EXPECT_EQ(this->bundles.infoStringsOfEach(this->host.path("Y.app"), "List", "Parts"), Texts());
 }
 
 // --- Queues

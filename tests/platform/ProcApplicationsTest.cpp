@@ -51,6 +51,15 @@ bool comesTrue(const std::function<bool()>& condition) {
     return false;
 }
 
+/// A dictionary that declares the extensions, each in a document type of its own.
+std::string documentTypes(const std::vector<std::string>& extensions) {
+    std::string text = "<plist version=\"1.0\"><dict><key>CFBundleDocumentTypes</key><array>";
+    for (const std::string& extension : extensions)
+        text += "<dict><key>CFBundleTypeExtensions</key><array><string>" + extension +
+                "</string></array></dict>";
+    return text + "</array></dict></plist>";
+}
+
 class ApplicationsTest : public testing::Test {
   protected:
     /// Makes the bundle with these entries of its dictionary; answers its path.
@@ -283,6 +292,10 @@ class InstalledTest : public ApplicationsTest {
     std::string word(const std::string& name) {
         return bundle(name, {{"CFBundleIdentifier", "com.example.Word"}});
     }
+    std::string opener(const std::string& name, const std::vector<std::string>& extensions) {
+        folder.write(name + "/Contents/Info.plist", documentTypes(extensions));
+        return folder.path(name);
+    }
     std::vector<std::string> found() { return applications.pathsFor("com.example.Word"); }
     using Paths = std::vector<std::string>;
 };
@@ -296,6 +309,38 @@ TEST_F(InstalledTest, TheMachinesApplicationsComeSortedAndThoseOfTheUserAfterThe
     bundle("Applications/E.app", {});
     word("elsewhere/F.app");
     EXPECT_EQ(found(), Paths({c, a, b, users}));
+}
+
+TEST_F(InstalledTest, TheExtensionOfABundleMayBeWrittenInCapitals) {
+    const std::string capitals = word("Applications/WORD.APP");
+    word("Applications/Word.apps");
+    EXPECT_EQ(found(), Paths({capitals}));
+}
+
+TEST_F(InstalledTest, WhatOpensADocumentIsToldByTheExtensionsThatBundlesDeclare) {
+    const std::string capitals = opener("Applications/A.app", {"xml", "ENL"});
+    const std::string users = opener("home/Applications/B.app", {"enl"});
+    opener("Applications/C.app", {"enlx", "en", ".enl", "*"});
+    bundle("Applications/D.app", {{"CFBundleTypeExtensions", "enl"}});
+    folder.write("Applications/E.app", "a file");
+    opener("elsewhere/F.app", {"enl"});
+    fs::create_directory_symlink("A.app", folder.path("Applications/G.app"));
+    EXPECT_EQ(applications.pathsForDocument("/no/such/folder/x.Enl"), Paths({capitals, users}));
+    EXPECT_EQ(applications.pathsForDocument("/tmp/x.xml"), Paths({capitals}));
+}
+
+TEST_F(InstalledTest, ADocumentWithoutAnExtensionIsOpenedByNothing) {
+    opener("Applications/A.app", {"enl", ""});
+    for (const char* document : {"/tmp/x", "/tmp.enl/x", "/tmp/.enl", "", "x."})
+        EXPECT_EQ(applications.pathsForDocument(document), std::nullopt) << document;
+}
+
+TEST_F(InstalledTest, WhatOpensADocumentIsLookedUpAnewEachTime) {
+    EXPECT_EQ(applications.pathsForDocument("x.enl"), std::nullopt);
+    const std::string path = opener("Applications/A.app", {"enl"});
+    EXPECT_EQ(applications.pathsForDocument("x.enl"), Paths({path}));
+    fs::remove_all(path);
+    EXPECT_EQ(applications.pathsForDocument("x.enl"), std::nullopt);
 }
 
 TEST_F(InstalledTest, BundlesAreNotLookedInto) {
@@ -352,6 +397,10 @@ struct RealApplications {
                      "<string>com.example.Installed</string></dict></plist>");
         return folder.path("Applications/I.app");
     }
+    std::string installOpener() {
+        folder.write("Applications/O.app/Contents/Info.plist", documentTypes({"enl"}));
+        return folder.path("Applications/O.app");
+    }
     void run() {
         folder.write("R.app/Contents/Info.plist",
                      "<plist version=\"1.0\"><dict><key>CFBundleIdentifier</key>"
@@ -376,6 +425,7 @@ struct PretendedApplications {
     std::string install() {
         return applications.installed["com.example.Installed"].emplace_back("/I.app");
     }
+    std::string installOpener() { return applications.openers["enl"].emplace_back("/O.app"); }
     void run() { applications.running.insert("com.example.Run"); }
     fakes::FakeApplications applications;
 };
@@ -403,6 +453,16 @@ TYPED_TEST(ApplicationsContract, WhatIsInstalledIsKnownByItsIdentifierAndLetterC
     EXPECT_EQ(this->applications.pathsFor("com.example.Installed"), Paths({path}));
     EXPECT_EQ(this->applications.pathsFor("com.example.installed"), Paths());
     EXPECT_EQ(this->applications.pathsFor(""), Paths());
+}
+
+TYPED_TEST(ApplicationsContract, WithoutAnApplicationForADocumentThereIsNoListAtAll) {
+    using Paths = std::vector<std::string>;
+    EXPECT_EQ(this->applications.pathsForDocument("/tmp/x.enl"), std::nullopt);
+    const std::string path = this->host.installOpener();
+    EXPECT_EQ(this->applications.pathsForDocument("/tmp/x.enl"), Paths({path}));
+    EXPECT_EQ(this->applications.pathsForDocument("/tmp/X.ENL"), Paths({path}));
+    EXPECT_EQ(this->applications.pathsForDocument("/tmp/x.txt"), std::nullopt);
+    EXPECT_EQ(this->applications.pathsForDocument("/tmp/enl"), std::nullopt);
 }
 
 TYPED_TEST(ApplicationsContract, OnlyABundleThatIsThereCanBeLaunched) {

@@ -23,9 +23,10 @@ inline std::string contentsOf(const std::filesystem::path& file) {
 
 class TemporaryFolder {
   public:
-    TemporaryFolder() {
-        std::string name =
-            (std::filesystem::temp_directory_path() / "scrivel-test-XXXXXX").string();
+    TemporaryFolder() : TemporaryFolder(std::filesystem::temp_directory_path()) {}
+    /// In that folder.
+    explicit TemporaryFolder(const std::filesystem::path& place) {
+        std::string name = (place / "scrivel-test-XXXXXX").string();
         if (::mkdtemp(name.data()) == nullptr)
             throw std::runtime_error("no temporary folder");
         m_path = std::filesystem::canonical(name);

@@ -102,7 +102,8 @@ class Walk final : private controls::Control::Observer {
     }
     /// Nobody can do anything while the wizard works, but the window lives on.
     bool isAtWork() const {
-        return !m_pretendsToWork && wizard.progress.isRunning() && !wizard.nextBtn.isEnabled();
+        const bool turns = wizard.progress.isRunning() || wizard.custProgress.isRunning();
+        return !m_pretendsToWork && turns && !wizard.nextBtn.isEnabled();
     }
     void later() {
         QTimer::singleShot(kBetweenDeeds, qApp, [this] {
@@ -221,9 +222,13 @@ void hideLocations(Walk& walk) {
     walk.wizard.acDoneBtn.press();
 }
 
+/// A folder whose path needs several lines.
+constexpr const char* kFarFolder =
+    "/Applications/Departments/Comparative Literature and Linguistics/Shared Software for the "
+    "Reading Room/Reference Management/Versions kept for older manuscripts/Scrivel 21";
+
 /// What a run on a machine with all of it would say.
 void fillPages(Walk& walk) {
-    walk.wizard.patchFound.setText("/Applications/Scrivel 21/Scrivel 21.app");
     walk.wizard.processingText.setText("Processing: Penmark add-in");
     using Result = ec::ComponentOutcome::Result;
     walk.wizard.outcomes = {
@@ -235,6 +240,27 @@ void fillPages(Walk& walk) {
          .result = Result::refused,
          .reason = ec::OutcomeReason{"Administrator rights were refused."}}};
 }
+/// What an updater would tell of several copies.
+void fillUpdate(Walk& walk) {
+    using State = ec::CopyOutcome::State;
+    walk.wizard.outcomes.clear();
+    walk.wizard.copies = {
+        {.folder = "/Applications/Scrivel 21", .application = {}, .state = State::updated},
+        {.folder = kFarFolder, .application = {}, .state = State::failed},
+        {.folder = "/Applications/Archive/Scrivel 21", .application = {}, .state = State::refused},
+        {.folder = "/Applications/Teaching/Scrivel 21",
+         .application = {},
+         .state = State::declined},
+        {.folder = "/Applications/Scrivel Beta", .application = {}, .state = State::unfit},
+        {.folder = "/Applications/New/Scrivel 21", .application = {}, .state = State::current}};
+}
+void takeFar(Walk& walk) {
+    walk.take("far");
+}
+void passOver(Walk& walk) {
+    walk.wizard.backBtn.press();
+}
+
 void work(Walk& walk) {
     walk.pretendToWork(true);
     walk.wizard.runSelector("disableButtons");
@@ -299,14 +325,17 @@ const std::array kWays{
         },
         [] { return Deeds{take, next, take, next, take, next}; }},
     Way{"update", [](ec::ecController& wizard) { return wizard.showPatcherFromMenu(); },
-        [] { return Deeds{take, next, take, next, take, next}; }},
+        [] {
+            return Deeds{take, next, take, next, takeFar, passOver, take, passOver, take, next};
+        }},
     // what the other ways do not reach on every machine, or not at all
     Way{"pages", openCustomizer,
         [] {
             Deeds deeds{fillPages};
             deeds.insert(deeds.end(), {show(10), work, take, rest});
-            for (const int page : {7, 9, 11, 12, 16, 17, 18, 23, 27, 28})
+            for (const int page : {7, 9, 11, 12, 18, 23, 27, 28})
                 deeds.insert(deeds.end(), {show(page), take});
+            deeds.insert(deeds.end(), {fillUpdate, show(17), take});
             deeds.insert(deeds.end(), {show(23), openPanel, closePanel});
             return deeds;
         }},

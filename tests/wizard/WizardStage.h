@@ -129,6 +129,7 @@ class WizardStage : private controls::Control::Observer {
     ports::Host preparedHost() {
         host.bundles.resourceFolder = folder.path();
         host.places.temporary = folder.path();
+        host.places.root = folder.path(); // the updater writes below it
         host.watchers.rowShown = [this](const ports::RowShown& row) { rows.push_back(row); };
         host.watchers.answered = [this](const ports::QuestionAnswered& question) {
             questions.push_back(question);

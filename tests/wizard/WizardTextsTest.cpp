@@ -157,15 +157,16 @@ TEST_F(WizardTextsTest, AFolderInThePlaceOfATextIsAsGoodAsNone) {
     EXPECT_EQ(controller.m_aboutFileString, "");
 }
 
-TEST_F(WizardTextsTest, TheLogButtonIsInSightOnSummariesOnly) {
+TEST_F(WizardTextsTest, TheLogButtonIsInSightOnSummariesAndWhereNoCopyWasFound) {
     show(34, {[this] {
              EXPECT_TRUE(controller.logBtn.isHidden());
              controller.cancelBtn.press();
          }});
-    const std::set<int> summaries(std::begin(kSummaryPages), std::end(kSummaryPages));
+    std::set<int> withLog(std::begin(kSummaryPages), std::end(kSummaryPages));
+    withLog.insert(ec::page::kNothingFound);
     for (int page = ec::page::kCount - 1; page >= 0; --page) {
         controller.ecTabView.select(page);
-        EXPECT_EQ(controller.logBtn.isHidden(), !summaries.contains(page)) << page;
+        EXPECT_EQ(controller.logBtn.isHidden(), !withLog.contains(page)) << page;
     }
 }
 

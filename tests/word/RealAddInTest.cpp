@@ -54,6 +54,10 @@ struct InstallerBundle final : ports::Bundles {
                       std::string_view arrayKey) override {
         return others.infoStrings(path, dictionaryKey, arrayKey);
     }
+    Texts infoStringsOfEach(const std::string& path, std::string_view listKey,
+                            std::string_view arrayKey) override {
+        return others.infoStringsOfEach(path, listKey, arrayKey);
+    }
 };
 
 struct RealAddIn : testing::Test {

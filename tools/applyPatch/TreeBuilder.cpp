@@ -80,14 +80,11 @@ bool isFolder(Step step) {
 // file's status, by which it is known again.
 void TreeBuilder::build() {
     makeFolders();
-    auto files = entriesOf(isNewFile);
-    const auto size = [this](const PlannedEntry* entry) {
-        const patch::NewEntry* wanted = m_needs.plan.wanted(*entry);
-        return wanted == nullptr ? 0 : wanted->entry.size;
-    };
-    const auto small = std::ranges::stable_partition(
-        files, [&](const PlannedEntry* entry) { return size(entry) >= kLarge; });
-    std::ranges::sort(files.begin(), small.begin(), std::ranges::greater(), size);
+    const auto files =
+        largeOnesFirst(entriesOf(isNewFile), kLarge, [this](const PlannedEntry* entry) {
+            const patch::NewEntry* wanted = m_needs.plan.wanted(*entry);
+            return wanted == nullptr ? 0 : wanted->entry.size;
+        });
     forEach(files, [this](const PlannedEntry& entry, Worker& worker) { make(entry, worker); });
     findShared();
     forEach(entriesOf(isKept),

@@ -10,6 +10,7 @@
 #include "tools/applyPatch/NewMetadata.h"
 #include "tools/applyPatch/TreeBuilder.h"
 #include "tools/files/AtomicExchange.h"
+#include "tools/files/ExtendedAttributes.h"
 #include "tools/files/FileError.h"
 #include "tools/files/Flush.h"
 #include "tools/files/FolderEntries.h"
@@ -64,12 +65,12 @@ Ending Update::apply() {
         oldName = exchanged(copy, building);
     } catch (...) {
         if (!m_leavesBuilding)
-            removeOld(building, m_needs.copy.buildingName());
+            removeBeside(building, m_needs.copy.buildingName());
         throw;
     }
     std::cout << path << " is " << versionText() << " now.\n";
-    removeOld(copy, oldName);
     m_needs.progress.finish();
+    removeOld(copy, oldName);
     return Ending::done;
 }
 
@@ -224,6 +225,10 @@ HeldFolder Update::madeBuildingPlace() {
             throw copy.isInTheWay(name);
         if (!building->lock())
             throw otherRun(copy.path());
+        // What the folder above lets others do by inheritance is not what the copy lets them do.
+        for (const std::string& attribute : attributeNames(building->number()))
+            if (isAccessList(attribute))
+                removeAttribute(building->number(), attribute);
         return std::move(*building);
     });
 }
@@ -293,12 +298,24 @@ void Update::renameInParent(const std::string& from, const std::string& to) {
         throw refusal(m_needs.copy.beside(from), errno);
 }
 
-// The new version is in place, or the old one still: neither is lost by what stays here.
+// The exchange is on the disk before anything of the old version goes.
 void Update::removeOld(const HeldFolder& old, const std::string& name) {
+    try {
+        flushFolder(m_needs.copy.parent());
+    } catch (const std::exception& error) {
+        m_needs.complaints.about(m_needs.copy.parentPath(), error);
+        m_needs.complaints.about(m_needs.copy.beside(name),
+                                 "is kept, as the disk may not know of the new version yet; the "
+                                 "next run removes it");
+        return;
+    }
+    removeBeside(old, name);
+}
+
+void Update::removeBeside(const HeldFolder& folder, const std::string& name) {
     const InstalledCopy& copy = m_needs.copy;
     try {
-        flushFolder(copy.parent());
-        removeTree(copy.parent(), name, old.number());
+        removeTree(copy.parent(), name, folder.number());
     } catch (const std::exception& error) {
         m_needs.complaints.about(copy.beside(name), error);
         m_needs.complaints.about(copy.beside(name),

@@ -57,6 +57,8 @@ class Update {
     const std::string& renamedBoth();
     void renameInParent(const std::string& from, const std::string& to);
     void removeOld(const HeldFolder& old, const std::string& name);
+    /// What can't be removed is a complaint: the copy is whole without it.
+    void removeBeside(const HeldFolder& folder, const std::string& name);
     std::string versionText() const;
 
     Needs m_needs;

@@ -111,8 +111,10 @@ int main(int argc, char** argv) {
     app.set_version_flag("--version", "applyPatch " SCRIVEL_VERSION ", patch format " +
                                           std::to_string(patch::kVersion));
     app.footer(kStatuses);
-    app.add_option("-d", arguments.folder, "The folder of the installed copy")->required();
-    app.add_option("-i", arguments.patch, "The patch file")->required();
+    app.add_option("-d", arguments.folder, "The folder of the installed copy")
+        ->required()
+        ->type_name("FOLDER");
+    app.add_option("-i", arguments.patch, "The patch file")->required()->type_name("PATCHFILE");
     CLI::Option* triesOut =
         app.add_flag("-n", arguments.triesOut, "Only tells whether the patch applies to the copy");
     CLI::Option* verifies = app.add_flag("--verify", arguments.verifies,

@@ -6,7 +6,7 @@ namespace tools {
 
 namespace {
 
-constexpr std::size_t kMostOpen = 32;
+constexpr std::size_t kMostOpen = 16;
 
 std::string_view firstComponent(std::string_view path) {
     return path.substr(0, path.find('/'));

@@ -19,7 +19,7 @@ namespace {
 
 constexpr std::size_t kPiece = std::size_t{256} << 10;
 
-// Files beyond this are taken first, so that no core begins one when the others are done.
+// Files beyond this are taken first.
 constexpr std::uint64_t kLarge = std::uint64_t{1} << 20;
 
 std::string linkTarget(int folder, const char* name, off_t size) {
@@ -205,16 +205,15 @@ Tree TreeReader::list() const {
     return std::move(walk.tree);
 }
 
-void TreeReader::addDigests(Tree& tree, std::vector<std::uint32_t> chosen, const Told& told) const {
-    const auto size = [&](std::uint32_t entry) { return tree.entries[entry].size; };
-    const auto small = std::ranges::stable_partition(
-        chosen, [&](std::uint32_t entry) { return size(entry) >= kLarge; });
-    std::ranges::sort(chosen.begin(), small.begin(), std::ranges::greater(), size);
-    onAllCores(chosen.size(), [&](const auto& next) {
+void TreeReader::addDigests(Tree& tree, const std::vector<std::uint32_t>& chosen,
+                            const Told& told) const {
+    const auto order = largeOnesFirst(
+        chosen, kLarge, [&](std::uint32_t entry) { return tree.entries[entry].size; });
+    onAllCores(order.size(), [&](const auto& next) {
         DigestMaker maker(m_top, told);
-        for (std::size_t i = next(); i < chosen.size(); i = next()) {
-            patch::Entry& entry = tree.entries[chosen[i]];
-            naming(entry.path, [&] { maker.add(entry, tree.statuses[chosen[i]]); });
+        for (std::size_t i = next(); i < order.size(); i = next()) {
+            patch::Entry& entry = tree.entries[order[i]];
+            naming(entry.path, [&] { maker.add(entry, tree.statuses[order[i]]); });
         }
     });
 }
@@ -224,7 +223,7 @@ void TreeReader::addDigests(Tree& tree, const Told& told) const {
     for (std::uint32_t i = 0; i < tree.entries.size(); ++i)
         if (tree.entries[i].kind == patch::Kind::file)
             files.push_back(i);
-    addDigests(tree, std::move(files), told);
+    addDigests(tree, files, told);
 }
 
 } // namespace tools

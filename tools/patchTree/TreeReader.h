@@ -64,7 +64,8 @@ class TreeReader {
 
     /// Adds digest and attributes of the chosen entries, all of which are files; on all cores.
     /// Throws FileError, with ESTALE for a file that is another one or changed since the list.
-    void addDigests(Tree& tree, std::vector<std::uint32_t> chosen, const Told& told = {}) const;
+    void addDigests(Tree& tree, const std::vector<std::uint32_t>& chosen,
+                    const Told& told = {}) const;
 
     /// The same for all files.
     void addDigests(Tree& tree, const Told& told = {}) const;

@@ -14,7 +14,8 @@ inline constexpr char kCollapses[] = "collapses";
 class TextFieldBinding final : public Binding<controls::TextField> {
   public:
     /// The model takes text, enabling and visibility from the widget; later the widget follows the
-    /// model. The widget outlives the binding.
+    /// model. A word that is too long for a line is wrapped where the widget wraps; its text can't
+    /// be selected then. The widget outlives the binding.
     TextFieldBinding(controls::TextField& field, QLabel& widget);
 
   private:
@@ -22,6 +23,7 @@ class TextFieldBinding final : public Binding<controls::TextField> {
     void drawNow() override { m_widget.repaint(); }
 
     QLabel& m_widget;
+    const Qt::TextInteractionFlags m_interaction; ///< as the interface file has it
 };
 
 } // namespace ui
