@@ -95,8 +95,9 @@ void AddressMap::finish() {
                     continue;
                 move.address += covered;
                 move.length -= covered;
-            } else if (m_moves[kept - 1].address == move.address) {
-                --kept;
+            } else {
+                while (kept > 0 && m_moves[kept - 1].address >= move.address)
+                    --kept;
             }
         }
         end = move.address + move.length;

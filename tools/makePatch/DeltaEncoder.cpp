@@ -64,8 +64,9 @@ class DifferenceWriter {
     }
 
     template <typename Word>
-    Word reference(std::byte*, Word foretold) {
+    Word reference(const std::byte* old, Word foretold) {
         const Word actual = walk::load<Word>(m_after.next(sizeof(Word)).data());
+        m_changedReferences += actual == walk::load<Word>(old) ? 0 : 1;
         if (actual == foretold) {
             ++m_referenceGap;
             return actual;
@@ -83,6 +84,8 @@ class DifferenceWriter {
 
     std::uint64_t differences() const { return m_differences; }
     std::uint64_t corrections() const { return m_corrections; }
+    /// References that are not what they were, foretold or not.
+    std::uint64_t changedReferences() const { return m_changedReferences; }
 
   private:
     FrameWriter& stream(DeltaStream stream) { return m_streams[static_cast<std::size_t>(stream)]; }
@@ -93,10 +96,16 @@ class DifferenceWriter {
     std::uint64_t m_referenceGap = 0;
     std::uint64_t m_differences = 0;
     std::uint64_t m_corrections = 0;
+    std::uint64_t m_changedReferences = 0;
 };
 
-Bytes encode(const Source& before, const Source& after, const std::vector<Match>& matches,
-             std::optional<Layout> layout, int level) {
+struct Encoded {
+    Bytes block;
+    bool foretellsMost; ///< of the references that changed: it can't be done better without
+};
+
+Encoded encode(const Source& before, const Source& after, const std::vector<Match>& matches,
+               std::optional<Layout> layout, int level) {
     std::optional<AddressMap> map;
     if (layout) {
         map.emplace(*layout);
@@ -147,7 +156,8 @@ Bytes encode(const Source& before, const Source& after, const std::vector<Match>
     Bytes block = encodedHead(head);
     for (const Bytes& frame : frames)
         block.insert(block.end(), frame.begin(), frame.end());
-    return block;
+    return {.block = std::move(block),
+            .foretellsMost = 2 * differences.corrections() < differences.changedReferences()};
 }
 
 std::optional<Layout> commonLayout(const Source& before, const Source& after) {
@@ -168,11 +178,16 @@ std::optional<Layout> commonLayout(const Source& before, const Source& after) {
 Bytes deltaOf(const Source& before, const Source& after, const DeltaSettings& settings) {
     const std::vector<Match> matches = matchesOf(before, after, settings.window);
     const std::optional<Layout> layout = commonLayout(before, after);
+    const auto plain = [&] {
+        return encode(before, after, matches, std::nullopt, settings.level).block;
+    };
     if (!layout || matches.size() > kMostMatches)
-        return encode(before, after, matches, std::nullopt, settings.level);
-    Bytes foretold = encode(before, after, matches, layout, settings.level);
-    Bytes plain = encode(before, after, matches, std::nullopt, settings.level);
-    return foretold.size() < plain.size() ? foretold : plain;
+        return plain();
+    Encoded foretold = encode(before, after, matches, layout, settings.level);
+    if (foretold.foretellsMost)
+        return std::move(foretold.block);
+    Bytes other = plain();
+    return foretold.block.size() < other.size() ? std::move(foretold.block) : other;
 }
 
 } // namespace tools

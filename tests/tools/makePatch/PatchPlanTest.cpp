@@ -49,7 +49,7 @@ TEST(PatchPlan, WhatIsTheSameInEverythingIsUnchangedAndHasNoTime) {
 }
 
 TEST(PatchPlan, AFileOfAnotherModeKeepsItsContent) {
-    const patch::NewEntry& entry = planOf(kBefore, after()).manifest.newEntries[6];
+    const patch::NewEntry entry = planOf(kBefore, after()).manifest.newEntries[6];
     EXPECT_FALSE(entry.unchanged);
     EXPECT_EQ(entry.method, Method::old);
     EXPECT_EQ(entry.base, 5u);
