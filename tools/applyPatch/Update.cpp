@@ -3,6 +3,7 @@
 #include <cstdio>
 #include <iostream>
 
+#include <fcntl.h>
 #include <sys/stat.h>
 
 #include "tools/applyPatch/FreeRoom.h"
@@ -218,19 +219,28 @@ HeldFolder Update::madeBuildingPlace() {
     return below(copy.parentPath(), [&] {
         leaveIfInterrupted();
         checked(::mkdirat(copy.parent(), name.c_str(), S_IRWXU));
-        std::optional<HeldFolder> building = copy.openBeside(name);
-        // Somebody else's folder in its place would let them at what is built in it.
-        if (!building || building->owner() != ::geteuid() ||
-            FolderEntries(building->number()).next())
-            throw copy.isInTheWay(name);
-        if (!building->lock())
-            throw otherRun(copy.path());
-        // What the folder above lets others do by inheritance is not what the copy lets them do.
-        for (const std::string& attribute : attributeNames(building->number()))
-            if (isAccessList(attribute))
-                removeAttribute(building->number(), attribute);
-        return std::move(*building);
+        try {
+            return lockedBuildingPlace();
+        } catch (...) {
+            ::unlinkat(copy.parent(), name.c_str(), AT_REMOVEDIR);
+            throw;
+        }
     });
+}
+
+HeldFolder Update::lockedBuildingPlace() {
+    const InstalledCopy& copy = m_needs.copy;
+    std::optional<HeldFolder> building = copy.openBeside(copy.buildingName());
+    // Somebody else's folder in its place would let them at what is built in it.
+    if (!building || building->owner() != ::geteuid() || FolderEntries(building->number()).next())
+        throw copy.isInTheWay(copy.buildingName());
+    if (!building->lock())
+        throw otherRun(copy.path());
+    // What the folder above lets others do by inheritance is not what the copy lets them do.
+    for (const std::string& attribute : attributeNames(building->number()))
+        if (isAccessList(attribute))
+            removeAttribute(building->number(), attribute);
+    return std::move(*building);
 }
 
 void Update::build(const Examination& examination, const HeldFolder& copy,

@@ -51,6 +51,7 @@ class Update {
     void removeLeftover(const std::string& name, uid_t owner);
 
     HeldFolder madeBuildingPlace();
+    HeldFolder lockedBuildingPlace();
     void build(const Examination& examination, const HeldFolder& copy, const HeldFolder& building);
     /// Answers the name that the old version has now.
     const std::string& exchanged(const HeldFolder& copy, const HeldFolder& building);

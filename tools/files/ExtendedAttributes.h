@@ -13,10 +13,12 @@
 
 namespace tools {
 
-/// Names as the system has them; empty also where the file system knows none.
+/// Names as the system has them; empty also where the file system knows none, and where this user
+/// may not see them. Throws std::system_error when they can't be read for another reason: what is
+/// there must not pass for missing.
 std::vector<std::string> attributeNames(int file);
 
-/// None when it is gone or can't be read.
+/// None when it is gone or not for this user to see. Throws std::system_error as above.
 std::optional<formats::Bytes> attributeValue(int file, const std::string& name);
 
 /// 0 or an error number.

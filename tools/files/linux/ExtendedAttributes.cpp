@@ -6,12 +6,19 @@
 #include <sys/stat.h>
 #include <sys/xattr.h>
 
+#include "tools/files/Descriptor.h"
+
 namespace tools {
 
 namespace {
 
 constexpr std::string_view kUser = "user.";
 constexpr std::string_view kAccessList = "system.posix_acl_";
+
+// What stands for "there is none", or none for this user. Anything else is the disk's failure.
+bool saysNone(int error) {
+    return error == ENODATA || error == ENOTSUP || error == EACCES || error == EPERM;
+}
 
 std::vector<std::string> split(std::string_view names) {
     std::vector<std::string> all;
@@ -30,19 +37,21 @@ std::vector<std::string> attributeNames(int file) {
     ssize_t length = ::flistxattr(file, buffer.data(), buffer.size());
     if (length >= 0)
         return split({buffer.data(), static_cast<std::size_t>(length)});
-    if (errno != ERANGE)
+    if (saysNone(errno))
         return {};
+    if (errno != ERANGE)
+        throwErrno();
     std::vector<char> all(65536); // the kernel's limit, XATTR_LIST_MAX
-    length = ::flistxattr(file, all.data(), all.size());
-    return split({all.data(), length < 0 ? 0 : static_cast<std::size_t>(length)});
+    length = checked(::flistxattr(file, all.data(), all.size()));
+    return split({all.data(), static_cast<std::size_t>(length)});
 }
 
 std::optional<formats::Bytes> attributeValue(int file, const std::string& name) {
     formats::Bytes value(65536); // the kernel's limit, XATTR_SIZE_MAX
     const ssize_t length = ::fgetxattr(file, name.c_str(), value.data(), value.size());
-    if (length < 0)
+    if (length < 0 && saysNone(errno))
         return std::nullopt;
-    value.resize(static_cast<std::size_t>(length));
+    value.resize(static_cast<std::size_t>(checked(length)));
     return value;
 }
 
