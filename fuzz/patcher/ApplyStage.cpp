@@ -138,9 +138,10 @@ patch::Bytes sealed(patch::View manifest, patch::View data) {
                                              .dataDigest = patch::digestOf(data),
                                              .manifestDigest = patch::digestOf(stored)},
                                             key());
-    patch::Bytes file(header.begin(), header.end());
-    file.insert(file.end(), data.begin(), data.end());
-    file.insert(file.end(), stored.begin(), stored.end());
+    patch::Bytes file(header.size() + data.size() + stored.size());
+    auto end = std::ranges::copy(header, file.begin()).out;
+    end = std::ranges::copy(data, end).out;
+    std::ranges::copy(stored, end);
     return file;
 }
 

@@ -7,11 +7,8 @@
 namespace {
 
 using namespace tests;
-using testing::Contains;
 using testing::ElementsAre;
-using testing::HasSubstr;
 using testing::IsEmpty;
-using testing::Not;
 
 struct RealUpdate : ComponentsRun {
     fs::path update() const { return fs::path(SCRIVEL_BUILD) / "sample/update/Scrivel"; }
@@ -83,7 +80,7 @@ TEST_F(RealUpdate, OfThreeCopiesTheOneThatFitsIsUpdatedAndTheOthersStay) {
     EXPECT_THAT(foundLines(), ElementsAre("Found patchable candidate: " + fits.string() + ".",
                                           "Found unpatchable instance: " + modified.string() + ".",
                                           "Found unpatchable instance: " + already.string() + "."));
-    EXPECT_THAT(fs::directory_iterator(applications()), testing::SizeIs(3)) << "left behind";
+    EXPECT_EQ(std::distance(fs::directory_iterator(applications()), {}), 3) << "left behind";
 }
 
 TEST_F(RealUpdate, WhatTheUserAddedStaysAndContentThatWasCopiedOutIsBroughtUpToDate) {
