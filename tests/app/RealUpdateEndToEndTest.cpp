@@ -17,11 +17,14 @@ struct RealUpdate : ComponentsRun {
     /// A copy of a version in the Applications folder, with the attributes that files have.
     fs::path addCopy(const std::string& name, const fs::path& version) {
         const fs::path copy = inApplications(name);
+        copyTree(version, copy);
+        return copy;
+    }
+    static void copyTree(const fs::path& from, const fs::path& to) {
         posix::SpawnedTools tools({});
         EXPECT_EQ(tools.run({std::string(SCRIVEL_BUILD) + "/tools/ditto",
-                             {version.string(), copy.string()}}),
+                             {"-rsrcFork", from.string(), to.string()}}),
                   0);
-        return copy;
     }
     Result updateAll() { return run("update --unattended --events"); }
 
@@ -108,10 +111,7 @@ TEST_F(RealUpdate, TheAddInOfThePatchedCopyTakesThePlaceOfTheOldOne) {
     addTwoWords();
     const fs::path copy = addCopy("Scrivel 21", sample());
     fs::create_directories(shared());
-    posix::SpawnedTools tools({});
-    ASSERT_EQ(tools.run({std::string(SCRIVEL_BUILD) + "/tools/ditto",
-                         {(copy / "Penmark" / k16).string(), (shared() / k16).string()}}),
-              0);
+    copyTree(copy / "Penmark" / k16, shared() / k16);
     const Result result = updateAll();
     EXPECT_EQ(result.exit, 0) << result.error;
     EXPECT_EQ(treeOf(shared() / k16), treeOf(update() / "Penmark" / k16));
