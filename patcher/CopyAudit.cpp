@@ -2,6 +2,7 @@
 
 #include <algorithm>
 #include <filesystem>
+#include <utility>
 
 #include "patcher/PatchTool.h"
 
@@ -13,9 +14,8 @@ void CopyAudit::willBeOffered(const std::string& application) {
     add(application, State::offered);
 }
 
-void CopyAudit::willNotBeOffered(const std::string& application) {
-    const bool current = isUpToDate(std::filesystem::path(application).parent_path().native());
-    add(application, current ? State::current : State::unfit);
+void CopyAudit::willNotBeOffered(const std::string& application, ExitStatus tested) {
+    add(application, tested.code() == patchtool::kIsUpToDate ? State::current : State::unfit);
 }
 
 void CopyAudit::wasDeclined(const std::string& folder) {
@@ -27,18 +27,18 @@ void CopyAudit::wasAccepted(const std::string& folder) {
     CopyOutcome* copy = offeredIn(folder);
     if (!copy)
         return;
-    if (isUpToDate(folder))
+    const auto before = std::exchange(copy->version, versionOf(copy->application));
+    if (copy->version != before || isUpToDate(folder))
         copy->state = State::updated;
     else
         copy->state = m_needs.runner.rightsWereRefused() ? State::refused : State::failed;
-    copy->version = m_needs.bundles.infoString(copy->application, "CFBundleShortVersionString");
 }
 
 void CopyAudit::add(const std::string& application, State state) {
     m_needs.session.copies.push_back(
         {.folder = std::filesystem::path(application).parent_path().native(),
          .application = application,
-         .version = m_needs.bundles.infoString(application, "CFBundleShortVersionString"),
+         .version = versionOf(application),
          .state = state});
 }
 
@@ -47,6 +47,10 @@ CopyOutcome* CopyAudit::offeredIn(const std::string& folder) {
         return copy.state == State::offered && copy.folder == folder;
     });
     return found == m_needs.session.copies.end() ? nullptr : &*found;
+}
+
+std::optional<std::string> CopyAudit::versionOf(const std::string& application) const {
+    return m_needs.bundles.infoString(application, "CFBundleShortVersionString");
 }
 
 bool CopyAudit::isUpToDate(const std::string& folder) {

@@ -1,8 +1,10 @@
-// Keeps what becomes of each copy that the updater has found, in the session. What is true of a
-// copy is asked of the patch tool, which looks at the disk: the status of a run as administrator
-// only says that it was started. It changes nothing and logs nothing. Used by Patcher; main thread.
+// Keeps what becomes of each copy that the updater has found, in the session. What is true of it is
+// found on disk, as the status of a run as administrator only says that it was started: a copy with
+// another version than before was replaced as a whole; of any other the patch tool is asked. It
+// changes nothing and logs nothing. Used by Patcher; main thread.
 #pragma once
 
+#include <optional>
 #include <string>
 
 #include "engine/CommandRunner.h"
@@ -25,8 +27,9 @@ class CopyAudit {
 
     /// The copy with this application is going to be offered.
     void willBeOffered(const std::string& application);
-    /// The update can't be applied to it: it is up to date, or no such copy as the update is for.
-    void willNotBeOffered(const std::string& application);
+    /// The update can't be applied to it, as the tool's test of it says by this status: it is up to
+    /// date, or no such copy as the update is for.
+    void willNotBeOffered(const std::string& application, ExitStatus tested);
 
     /// The copy in `folder` that was offered was passed over, or the update was applied to it.
     /// Nothing where none is offered there.
@@ -36,6 +39,7 @@ class CopyAudit {
   private:
     void add(const std::string& application, CopyOutcome::State state);
     CopyOutcome* offeredIn(const std::string& folder);
+    std::optional<std::string> versionOf(const std::string& application) const;
     bool isUpToDate(const std::string& folder);
 
     Needs m_needs;

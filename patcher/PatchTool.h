@@ -13,6 +13,10 @@ namespace ec::patchtool {
 /// As the tool is called where it is looked for in the resource folder.
 inline constexpr std::string_view kName = "applyPatch";
 
+/// Its status of a dry run over a copy that is up to date already. Any other but 0 says that the
+/// update can't be applied.
+inline constexpr int kIsUpToDate = 6;
+
 /// What it is asked for besides applying the update.
 inline constexpr std::string_view kDryRun = "-n";       ///< status 0: the update can be applied
 inline constexpr std::string_view kCategories = "-C";   ///< lists the content that goes with it

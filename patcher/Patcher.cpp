@@ -105,9 +105,9 @@ std::int32_t Patcher::findAllScrivels() {
         if (!Corvaldine::CP::equal_ignoring_case(path.filename().native(), kApplicationName))
             continue;
         const std::string folder = path.parent_path().native();
-        if (patchScrivel(folder, true)) {
+        if (const ExitStatus status = tested(folder); saysFailure(status)) {
             m_needs.log.logMessage("Found unpatchable instance: " + folder + ".");
-            m_audit.willNotBeOffered(application);
+            m_audit.willNotBeOffered(application, status);
         } else {
             m_scrivels.push_back(folder);
             m_needs.log.logMessage("Found patchable candidate: " + folder + ".");
@@ -126,14 +126,19 @@ void Patcher::forgetScrivels() {
     m_needs.outlets.backBtn.setAction([this] { (void)m_needs.actions.runSelector("prev"); });
 }
 
-bool Patcher::patchScrivel(const std::string& folder, bool justTesting) {
+ExitStatus Patcher::tested(const std::string& folder) {
     m_needs.systemLog.write(folder);
-    const std::string tool = patchtool::path(m_needs.session);
+    return m_needs.runner.launchApp(
+        patchtool::path(m_needs.session),
+        patchtool::arguments(m_needs.session, folder, patchtool::kDryRun));
+}
+
+bool Patcher::patchScrivel(const std::string& folder, bool justTesting) {
     if (justTesting)
-        return saysFailure(m_needs.runner.launchApp(
-            tool, patchtool::arguments(m_needs.session, folder, patchtool::kDryRun)));
-    const ExitStatus status =
-        m_needs.runner.launchRootApp(tool, patchtool::arguments(m_needs.session, folder));
+        return saysFailure(tested(folder));
+    m_needs.systemLog.write(folder);
+    const ExitStatus status = m_needs.runner.launchRootApp(
+        patchtool::path(m_needs.session), patchtool::arguments(m_needs.session, folder));
     if (status.succeeded() && !m_needs.runner.rightsWereRefused()) {
         (void)m_needs.addIn.installWordMode(OpMode::remove, 0, folder, std::nullopt);
         (void)m_needs.addIn.installWordMode(OpMode::copy, 0, folder, std::nullopt);

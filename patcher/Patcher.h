@@ -100,6 +100,7 @@ class Patcher {
     void doPatchNo();
 
   private:
+    ExitStatus tested(const std::string& folder);
     void beginWork(controls::Progress& indicator);
     std::vector<std::string> applicationsFor(const std::string& document) const;
     std::optional<std::string> currentScrivel() const;

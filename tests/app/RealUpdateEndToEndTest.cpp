@@ -65,6 +65,21 @@ TEST_F(RealUpdate, AnInstalledCopyBecomesTheNextVersionByteForByte) {
     EXPECT_EQ(namesBeyond(destination, update()), added) << "what the installer added stays";
     EXPECT_THAT(foundLines(),
                 ElementsAre("Found patchable candidate: " + destination.string() + "."));
+    const std::string patch = (bundle / "Contents/Resources/Patchfile.patch").string();
+    const Json base = {"-d", destination.string(), "-i", patch};
+    std::vector<std::string> requests;
+    for (const Json& call : result.of("tool")) {
+        Json arguments = call["arguments"];
+        ASSERT_GE(arguments.size(), base.size());
+        requests.push_back(call["as"].get<std::string>() +
+                           (arguments.size() > base.size()
+                                ? " " + arguments.back().get<std::string>()
+                                : std::string()));
+        arguments.erase(arguments.begin() + static_cast<std::ptrdiff_t>(base.size()),
+                        arguments.end());
+        EXPECT_EQ(arguments, base);
+    }
+    EXPECT_THAT(requests, ElementsAre("user -n", "admin", "user -C"));
 }
 
 TEST_F(RealUpdate, OfThreeCopiesTheOneThatFitsIsUpdatedAndTheOthersStay) {

@@ -212,6 +212,16 @@ TEST_F(PatcherMode, TheQuestionWhetherACopyIsUpdatedIsNotInTheLog) {
         EXPECT_THAT(line, Not(HasSubstr("--verify")));
 }
 
+TEST_F(PatcherMode, OfACopyThatHasAnotherVersionAfterwardsTheToolIsNotAsked) {
+    add("A");
+    patchTool.whileApplied = [this](const std::string& its) {
+        host.bundles.strings[{its + "/Scrivel 21.app", "CFBundleShortVersionString"}] = "21.1";
+    };
+    update({yes(), next()});
+    EXPECT_THAT(states(), ElementsAre(State::updated));
+    EXPECT_THAT(toolRuns(), testing::Each(Not(HasSubstr("--verify"))));
+}
+
 TEST_F(PatcherMode, WordThatRunsIsWaitedForBeforeACopyIsUpdated) {
     add("A");
     update({[this] {

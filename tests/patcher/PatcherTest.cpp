@@ -79,7 +79,7 @@ TEST_F(Patcher, TheSearchLogsEachCopyAndKeepsThoseThatTheUpdateFits) {
     EXPECT_THAT(logged(),
                 ElementsAre(testLine(first), "Found patchable candidate: " + first + ".",
                             testLine(altered, 1), "Found unpatchable instance: " + altered + ".",
-                            testLine(current, 1), "Found unpatchable instance: " + current + ".",
+                            testLine(current, 6), "Found unpatchable instance: " + current + ".",
                             testLine(second), "Found patchable candidate: " + second + "."));
     EXPECT_THAT(host.systemLog.lines, ElementsAre(first, altered, current, second));
     EXPECT_EQ(controller.setupCurrentScrivel(), first);

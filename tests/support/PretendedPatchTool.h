@@ -45,7 +45,7 @@ class PretendedPatchTool {
         if (request == "-n" && whileTesting)
             whileTesting();
         if (request == "-n")
-            return {.status = copy == Copy::old ? 0 : 1};
+            return {.status = copy == Copy::old ? 0 : copy == Copy::altered ? 1 : 6};
         if (request == "--verify")
             return {.status = copy == Copy::current ? 0 : 1};
         if (request == "-C")

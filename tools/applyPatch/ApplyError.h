@@ -14,6 +14,7 @@ enum class Ending : int {
     notAPatch = 3, ///< the patch is broken, not signed, of another version
     refused = 4,   ///< the system refused something: space, rights, an error of the disk
     otherRun = 5,  ///< another run is at work on the copy
+    current = 6,   ///< tried out on a copy that is the new version already
 };
 
 /// Ends the run. The sentence names file, place and remedy.

@@ -82,7 +82,7 @@ Ending Update::tryOut() {
     if (examination.isNewVersion()) {
         m_needs.complaints.about(m_needs.copy.path(),
                                  "is " + versionText() + " already; there is nothing to do");
-        return Ending::differs;
+        return Ending::current;
     }
     return examination.applies() ? Ending::done : reportDifferences(examination);
 }

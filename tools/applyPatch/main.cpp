@@ -26,9 +26,10 @@ using namespace tools;
 constexpr int kSignalBase = 128;
 
 constexpr const char* kStatuses =
-    "Exit status: 0 done, applies, or is as asked; 1 the copy differs, or has nothing to be done; "
+    "Exit status: 0 done, applies, or is as asked; 1 the copy differs; "
     "2 wrong usage; 3 no valid patch; 4 the system refused something, as for want of space or "
-    "rights; 5 another run is at work; 128 + N ended by signal N. But for 0 after an update the "
+    "rights; 5 another run is at work; 6 with -n, the copy is the new "
+    "version already; 128 + N ended by signal N. But for 0 after an update the "
     "copy "
     "is as it was.";
 
