@@ -16,11 +16,11 @@ namespace tools::testing {
 /// Exit statuses.
 constexpr int kDone = 0;
 constexpr int kDiffers = 1;
-constexpr int kCurrent = 6;
 constexpr int kUsage = 2;
 constexpr int kNotAPatch = 3;
 constexpr int kRefused = 4;
 constexpr int kOtherRun = 5;
+constexpr int kCurrent = 6;
 
 class PatchTest : public AdministratorToolTest {
   protected:
