@@ -91,7 +91,7 @@ TEST(DryRun, ChangesNothingOnDisk) {
         EXPECT_EQ(pair.apply().status, 0);
         EXPECT_EQ(pair.apply("--verify").status, 0);
         const Outcome after = pair.apply("-n");
-        EXPECT_EQ(after.status, 1) << "there is nothing to be done";
+        EXPECT_EQ(after.status, 6) << "it is up to date";
         EXPECT_EQ(after.counted, 0U);
     }
 }
