@@ -55,9 +55,9 @@ struct RealUpdate : ComponentsRun {
 };
 
 TEST_F(RealUpdate, AnInstalledCopyBecomesTheNextVersionByteForByte) {
-    ASSERT_EQ(run("install --unattended --no-launch").exit, exitNeedingRights());
     if (!isRoot())
         GTEST_SKIP() << "an ordinary user is refused the rights to update";
+    ASSERT_EQ(run("install --unattended --no-launch").exit, 0);
     const auto added = namesBeyond(destination, sample());
     const Result result = updateAll();
     EXPECT_EQ(result.exit, 0) << result.error;

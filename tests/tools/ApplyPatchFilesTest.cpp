@@ -416,14 +416,13 @@ TEST_F(ApplyPatchFiles, WriteProtectedFilesAndFoldersAreUpdated) {
         setMode(std::string(version) + "locked/file", 0400);
         setMode(std::string(version) + "locked", 0500);
     }
-    setMode("before/locked/deep/gone", 0);
+    setMode("before/locked/deep/gone", 0400);
     setMode("before/locked/deep", 0500);
     makePatch();
     makeCopy();
     if (isRoot()) {
         ASSERT_EQ(run({"chown", "-R", "65534:65534", "."}).status, 0);
     }
-    setMode("copy/locked/deep/gone", 0400);
     const Outcome outcome = applyAsOrdinaryUser();
     EXPECT_EQ(outcome.status, kDone) << outcome.output;
     EXPECT_EQ(outcome.output.find("could not"), std::string::npos) << outcome.output;
