@@ -1,4 +1,5 @@
-// SHA-256, by the crypto library's code for this processor.
+// SHA-256, by the crypto library's code for this processor. Used by everything that makes, reads or
+// applies patches; opens no file itself.
 #pragma once
 
 #include <array>

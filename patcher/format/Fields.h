@@ -1,5 +1,6 @@
 // Numbers and texts as the format writes them: little-endian numbers of fixed width, and varints,
-// seven bits to a byte, the lowest first, the top bit set in all bytes but the last.
+// seven bits to a byte, the lowest first, the top bit set in all bytes but the last. Used by
+// the manifest, the header and the deltas; knows none of them.
 #pragma once
 
 #include <cstdint>

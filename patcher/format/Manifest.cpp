@@ -1,3 +1,4 @@
+// The order of paths, and looking an entry up by it; see Manifest.h.
 #include "patcher/format/Manifest.h"
 
 #include <algorithm>

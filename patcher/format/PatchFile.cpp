@@ -1,7 +1,6 @@
 #include "patcher/format/PatchFile.h"
 
 #include <algorithm>
-#include <limits>
 #include <memory>
 
 #include <zstd.h>

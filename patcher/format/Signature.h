@@ -1,5 +1,6 @@
 // Who made a patch: Ed25519 keys and signatures. A patch is applied only when the key that is built
-// into applyPatch signed it.
+// into applyPatch signed it. Used by PatchFile, and by makePatch for its key files, which are read
+// there: nothing here opens a file or keeps a seed.
 #pragma once
 
 #include <array>

@@ -65,7 +65,7 @@ inline Manifest sampleManifest() {
     manifest.newVersion = "21.0.1";
     Entry marked = fileEntry("a/marked", "m");
     marked.attributes = {{"user.one", bytesOf("1")}, {"user.two", {}}};
-    Entry negative = fileEntry("new", "new content");
+    const Entry beforeTheEpoch = fileEntry("new", "new content");
     manifest.oldEntries = {folderEntry("a"),
                            fileEntry("a/empty", ""),
                            marked,
@@ -84,7 +84,7 @@ inline Manifest sampleManifest() {
         made(fileEntry("a.c", "another text"), Method::whole, 0, 0, 20),
         made(fileEntry("edited", "new text"), Method::delta, 5, 20, 30),
         kept(old[6], 6),
-        made(negative, Method::dictionary, 8, 50, 10),
+        made(beforeTheEpoch, Method::dictionary, 8, 50, 10),
         made(fileEntry("void", ""), Method::nothing),
     };
     manifest.newEntries[7].modified = {-5, 0};

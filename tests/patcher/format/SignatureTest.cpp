@@ -50,7 +50,7 @@ TEST(Keys, NewOnesDiffer) {
     EXPECT_NE(newSeed(), newSeed());
 }
 
-// What a build without a key of its own accepts; SCRIVEL_TEST_KEY is empty in others.
+// SCRIVEL_ACCEPTS_TEST_KEY is 1 in a build without a key of its own, and 0 in others.
 TEST(Keys, TheTestsKeyIsTheOneThatSuchABuildAccepts) {
     std::ifstream file(SCRIVEL_TEST_KEY_FILE);
     const std::string text{std::istreambuf_iterator<char>(file), {}};
