@@ -42,10 +42,11 @@ class NoLaunches final : public ports::Applications {
 } // namespace
 
 Adapters::Adapters(const CommandLine& options, std::optional<bool> authorize)
-    : places(placesOf(options)), bundles(ownExecutable()),
-      texts(options.unattended ? std::make_unique<posix::EnglishTexts>(bundles.mainResourceFolder())
-                               : makeTexts(bundles.mainResourceFolder(), preferredLanguages())),
-      events(clock, mainQueue), spawnedTools({.ownToolsFolder = folderOf(bundles.mainExecutable()),
+    : places(placesOf(options)), systemLog(makeSystemLog()), bundles(makeBundles()),
+      texts(options.unattended
+                ? std::make_unique<posix::EnglishTexts>(bundles->mainResourceFolder())
+                : makeTexts(bundles->mainResourceFolder(), preferredLanguages())),
+      events(clock, mainQueue), spawnedTools({.ownToolsFolder = folderOf(bundles->mainExecutable()),
                                               .progress =
                                                   [this](const ports::ToolProgress& progress) {
                                                       mainQueue.post([this, progress] {
@@ -56,7 +57,7 @@ Adapters::Adapters(const CommandLine& options, std::optional<bool> authorize)
                                               .whileWaiting = whileWaiting(options),
                                               .outputToError = options.events}),
       tools(spawnedTools, events),
-      systemAdministrator(makeAdministrator(folderOf(bundles.mainExecutable()),
+      systemAdministrator(makeAdministrator(folderOf(bundles->mainExecutable()),
                                             options.unattended ? "" : "scrivel-askpass",
                                             whileWaiting(options))),
       decidedAdministrator(
@@ -65,7 +66,8 @@ Adapters::Adapters(const CommandLine& options, std::optional<bool> authorize)
                     .inner = *systemAdministrator, .authorize = *authorize})
               : nullptr),
       administrator(decidedAdministrator ? *decidedAdministrator : *systemAdministrator, events),
-      applications(makeApplications(places, bundles)), finderFiles(makeFinderFiles()) {
+      applications(makeApplications(places, *bundles)), finderFiles(makeFinderFiles()),
+      backgroundQueue(makeBackgroundQueue()) {
     if (options.noLaunch)
         applications = std::make_unique<NoLaunches>(std::move(applications));
 }

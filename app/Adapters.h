@@ -12,14 +12,15 @@
 #include "app/unattended/EventStream.h"
 #include "app/unattended/Observers.h"
 #include "platform/ports/Applications.h"
+#include "platform/ports/Bundles.h"
 #include "platform/ports/FinderFiles.h"
 #include "platform/ports/LocalizedTexts.h"
+#include "platform/ports/Queues.h"
+#include "platform/ports/SystemLog.h"
 #include "platform/ports/SystemPlaces.h"
 #include "platform/posix/FilePropertyLists.h"
 #include "platform/posix/FileTextStreams.h"
-#include "platform/posix/PlistBundles.h"
 #include "platform/posix/SpawnedTools.h"
-#include "platform/posix/StandardSystemLog.h"
 #include "platform/posix/SystemClock.h"
 #include "platform/posix/ThreadQueues.h"
 
@@ -32,9 +33,9 @@ struct Adapters {
     const ports::SystemPlaces places;
     posix::MainQueue mainQueue;
     posix::SystemClock clock;
-    posix::StandardSystemLog systemLog;
+    std::unique_ptr<ports::SystemLog> systemLog;
     posix::FileTextStreams streams;
-    posix::PlistBundles bundles;
+    std::unique_ptr<ports::Bundles> bundles;
     posix::FilePropertyLists propertyLists;
     /// English in an unattended run, else in the user's language.
     std::unique_ptr<ports::LocalizedTexts> texts;
@@ -50,7 +51,7 @@ struct Adapters {
     ObservedAdministrator administrator;
     std::unique_ptr<ports::Applications> applications;
     std::unique_ptr<ports::FinderFiles> finderFiles;
-    posix::BackgroundQueue backgroundQueue;
+    std::unique_ptr<ports::BackgroundQueue> backgroundQueue;
 
   private:
     std::function<void()> whileWaiting(const CommandLine& options);

@@ -57,7 +57,7 @@ RunOutcome InstallRun::run() {
     return {.result = std::nullopt,
             .code = ExitCode::failed,
             .reason = "the interface file ScrivelInstaller.ui can't be loaded from " +
-                      m_program.adapters().bundles.mainResourceFolder() +
+                      m_program.adapters().bundles->mainResourceFolder() +
                       "; get a complete copy of the installer",
             .summary = {}};
 }

@@ -3,6 +3,7 @@
 #include <iostream>
 #include <optional>
 
+#include "app/SystemParts.h"
 #include "wizard/InstallLog.h"
 
 namespace app {
@@ -19,8 +20,8 @@ Program::Program(const CommandLine& options, AnswersFile answers, int& argc, cha
       m_printer(std::cout), m_driver(driverNeeds(std::move(answers))),
       m_unattended(
           {.driver = m_driver,
-           .background = m_adapters.backgroundQueue,
-           .resourceFolder = m_adapters.bundles.mainResourceFolder(),
+           .background = *m_adapters.backgroundQueue,
+           .resourceFolder = m_adapters.bundles->mainResourceFolder(),
            .runPending = [this] { m_adapters.mainQueue.runPending(); },
            .waitForWork = [this](auto longest) { m_adapters.mainQueue.waitForWork(longest); }}),
       m_window(window(argc, argv)),
@@ -31,17 +32,17 @@ Program::Program(const CommandLine& options, AnswersFile answers, int& argc, cha
       m_choosers(m_frontEnd.fileChoosers, m_adapters.events),
       m_host{.places = m_adapters.places,
              .clock = m_adapters.clock,
-             .systemLog = m_adapters.systemLog,
+             .systemLog = *m_adapters.systemLog,
              .streams = m_adapters.streams,
              .tools = m_adapters.tools,
              .administrator = m_adapters.administrator,
              .applications = *m_adapters.applications,
              .finderFiles = *m_adapters.finderFiles,
-             .bundles = m_adapters.bundles,
+             .bundles = *m_adapters.bundles,
              .propertyLists = m_adapters.propertyLists,
              .texts = *m_adapters.texts,
              .mainQueue = m_adapters.mainQueue,
-             .backgroundQueue = m_adapters.backgroundQueue,
+             .backgroundQueue = *m_adapters.backgroundQueue,
              .interfaceFiles = m_frontEnd.interfaceFiles,
              .alertSheets = m_alerts,
              .modalLoop = m_frontEnd.modalLoop,
@@ -50,7 +51,7 @@ Program::Program(const CommandLine& options, AnswersFile answers, int& argc, cha
              .reader = m_frontEnd.reader,
              .beeper = m_frontEnd.beeper,
              .watchers = eventWatchers(m_adapters.events)},
-      m_rules(ec::ecRules::mainRules(m_adapters.bundles.mainResourceFolder())),
+      m_rules(ec::ecRules::mainRules(m_adapters.bundles->mainResourceFolder())),
       m_root(ec::ecItem::rootItem(m_rules)) {
     if (m_window)
         m_adapters.keepAlive = m_window->keepAlive();
@@ -89,18 +90,20 @@ std::unique_ptr<WindowFrontEnd> Program::window(int& argc, char** argv) {
     return makeWindowFrontEnd(
         {.argc = argc,
          .argv = argv,
-         .resourceFolder = m_adapters.bundles.mainResourceFolder(),
+         .resourceFolder = m_adapters.bundles->mainResourceFolder(),
          .texts = *m_adapters.texts,
          .mainQueueDescriptor = m_adapters.mainQueue.descriptor(),
          .runPending = [this] { m_adapters.mainQueue.runPending(); },
          .typeOfFile =
              [this](const std::string& path) {
                  return m_adapters.finderFiles->finderInformation(path).information.typeText();
-             }});
+             },
+         .desktopIsDark = desktopIsDark,
+         .toolkitVersion = toolkitVersion()});
 }
 
 void Program::finishBackgroundWork() {
-    while (m_adapters.backgroundQueue.isBusy()) {
+    while (m_adapters.backgroundQueue->isBusy()) {
         m_adapters.mainQueue.waitForWork(50ms);
         m_adapters.mainQueue.runPending();
     }

@@ -4,6 +4,7 @@
 
 #include <functional>
 #include <memory>
+#include <optional>
 #include <string>
 #include <vector>
 
@@ -11,12 +12,14 @@
 #include "platform/ports/Applications.h"
 #include "platform/ports/Bundles.h"
 #include "platform/ports/FinderFiles.h"
+#include "platform/ports/Queues.h"
+#include "platform/ports/SystemLog.h"
 #include "platform/ports/SystemPlaces.h"
 
 namespace app {
 
-/// The running program's file, absolute, links resolved.
-std::string ownExecutable();
+/// The current user's home folder, which need not exist; empty when it isn't known.
+std::string homeFolder();
 
 /// The user's languages as locale names ("de_AT.UTF-8"), the dearest first; empty: English.
 std::vector<std::string> preferredLanguages();
@@ -24,6 +27,17 @@ std::vector<std::string> preferredLanguages();
 /// Can a window be shown?
 bool hasDisplay();
 
+/// Has the desktop a dark appearance? None: the window's toolkit knows as well. Asked when the
+/// toolkit's application object is there.
+std::optional<bool> desktopIsDark();
+
+/// The version number of the toolkit that windows are shown with; see ports::Appearance.
+double toolkitVersion();
+
+std::unique_ptr<ports::Bundles> makeBundles();
+/// At most one at a time.
+std::unique_ptr<ports::SystemLog> makeSystemLog();
+std::unique_ptr<ports::BackgroundQueue> makeBackgroundQueue();
 std::unique_ptr<ports::Applications> makeApplications(const ports::SystemPlaces& places,
                                                       ports::Bundles& bundles);
 std::unique_ptr<ports::FinderFiles> makeFinderFiles();

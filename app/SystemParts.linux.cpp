@@ -8,13 +8,18 @@
 #include "platform/linux/OwnExecutable.h"
 #include "platform/linux/PreferredLanguages.h"
 #include "platform/linux/ProcApplications.h"
+#include "platform/ports/FrontEnd.h"
 #include "platform/posix/FinderFileStore.h"
+#include "platform/posix/PlistBundles.h"
+#include "platform/posix/StandardSystemLog.h"
 #include "platform/posix/SudoAdministrator.h"
+#include "platform/posix/ThreadQueues.h"
 
 namespace app {
 
-std::string ownExecutable() {
-    return linuxhost::ownExecutable();
+std::string homeFolder() {
+    const char* home = std::getenv("HOME"); // NOLINT(concurrency-mt-unsafe)
+    return home ? home : "";
 }
 
 std::vector<std::string> preferredLanguages() {
@@ -28,6 +33,26 @@ bool hasDisplay() {
         const char* value = std::getenv(name); // NOLINT(concurrency-mt-unsafe)
         return value && *value;
     });
+}
+
+std::optional<bool> desktopIsDark() {
+    return std::nullopt;
+}
+
+double toolkitVersion() {
+    return ports::Appearance::kOwnToolkitVersion;
+}
+
+std::unique_ptr<ports::Bundles> makeBundles() {
+    return std::make_unique<posix::PlistBundles>(linuxhost::ownExecutable());
+}
+
+std::unique_ptr<ports::SystemLog> makeSystemLog() {
+    return std::make_unique<posix::StandardSystemLog>();
+}
+
+std::unique_ptr<ports::BackgroundQueue> makeBackgroundQueue() {
+    return std::make_unique<posix::BackgroundQueue>();
 }
 
 std::unique_ptr<ports::Applications> makeApplications(const ports::SystemPlaces& places,

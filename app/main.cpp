@@ -1,7 +1,6 @@
 // The process entry: reads the command line and hands over. Started as "scrivel-askpass" the
 // program is the window in which sudo asks for the password.
 #include <csignal>
-#include <cstdlib>
 #include <iostream>
 #include <string_view>
 
@@ -9,14 +8,14 @@
 #include "app/CompositionRoot.h"
 #include "app/SystemParts.h"
 #include "app/WindowFrontEnd.h"
-#include "platform/posix/PlistBundles.h"
+#include "platform/ports/Bundles.h"
 
 namespace {
 
 int askPassword(int& argc, char** argv) {
-    const posix::PlistBundles bundles(app::ownExecutable());
-    const auto texts = app::makeTexts(bundles.mainResourceFolder(), app::preferredLanguages());
-    return app::runPasswordDialog(argc, argv, bundles.mainResourceFolder(), *texts);
+    const auto bundles = app::makeBundles();
+    const auto texts = app::makeTexts(bundles->mainResourceFolder(), app::preferredLanguages());
+    return app::runPasswordDialog(argc, argv, bundles->mainResourceFolder(), *texts);
 }
 
 } // namespace
@@ -26,8 +25,7 @@ int main(int argc, char** argv) {
     std::signal(SIGPIPE, SIG_IGN);
     if (std::string_view(argv[0]).ends_with("scrivel-askpass"))
         return askPassword(argc, argv);
-    const char* home = std::getenv("HOME"); // NOLINT(concurrency-mt-unsafe)
-    const auto parsed = app::parseCommandLine({argv + 1, argv + argc}, home ? home : "");
+    const auto parsed = app::parseCommandLine({argv + 1, argv + argc}, app::homeFolder());
     std::cout << parsed.output << std::flush;
     std::cerr << parsed.error << std::flush;
     if (!parsed.options)

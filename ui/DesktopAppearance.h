@@ -7,16 +7,17 @@ namespace ui {
 
 class DesktopAppearance final : public ports::Appearance {
   public:
-    explicit DesktopAppearance(bool dark) : m_dark(dark) {}
+    /// A front end without a toolkit of the platform follows a dark desktop, and its buttons suit a
+    /// title in a colour of its own: in the platform's count it is macOS 11.
+    explicit DesktopAppearance(bool dark, double toolkitVersion = kOwnToolkitVersion)
+        : m_dark(dark), m_toolkitVersion(toolkitVersion) {}
 
     bool isDark() const override { return m_dark; }
-
-    /// The toolkit whose window manners this front end has: it follows a dark desktop, and its
-    /// buttons suit a title in a colour of its own. In the platform's count that is macOS 11.
-    double toolkitVersion() const override { return kOwnToolkitVersion; }
+    double toolkitVersion() const override { return m_toolkitVersion; }
 
   private:
     bool m_dark;
+    double m_toolkitVersion;
 };
 
 } // namespace ui

@@ -32,6 +32,7 @@ struct GuiFrontEnd::Parts {
                        .resourceFolder = needs.resourceFolder,
                        .texts = needs.texts,
                        .dark = needs.dark,
+                       .desktopIsDark = needs.desktopIsDark,
                        .onNoDisplay = needs.onNoDisplay}),
           files({.resourceFolder = needs.resourceFolder,
                  .texts = needs.texts,
@@ -39,8 +40,8 @@ struct GuiFrontEnd::Parts {
           sheets(files), loop(files),
           choosers({.loop = loop, .texts = needs.texts, .typeOf = needs.typeOfFile}),
           reader({.files = files, .loop = loop, .texts = needs.texts}),
-          appearance(application.isDark()), queue(needs.mainQueueDescriptor, QSocketNotifier::Read),
-          busyPump(queue) {
+          appearance(application.isDark(), needs.toolkitVersion),
+          queue(needs.mainQueueDescriptor, QSocketNotifier::Read), busyPump(queue) {
         QObject::connect(&queue, &QSocketNotifier::activated, &queue,
                          [runPending = needs.runPending] { runPending(); });
     }

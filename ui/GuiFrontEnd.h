@@ -34,6 +34,10 @@ class GuiFrontEnd {
         /// The four-character type of the file at a path, empty for none: what a file chooser goes
         /// by besides extensions.
         std::function<std::string(const std::string&)> typeOfFile = nullptr;
+        /// Has the desktop a dark appearance? Asked once the toolkit's application is there, where
+        /// `dark` is none. None, or without it: as the toolkit sees it.
+        std::function<std::optional<bool>()> desktopIsDark = nullptr;
+        double toolkitVersion = ports::Appearance::kOwnToolkitVersion;
     };
     explicit GuiFrontEnd(const Needs& needs);
     ~GuiFrontEnd();

@@ -42,14 +42,19 @@ class StartUp {
     QtMessageHandler m_previous = nullptr;
 };
 
+bool wantsDark(const ThemedApplication::Needs& needs) {
+    std::optional<bool> dark = needs.dark;
+    if (!dark && needs.desktopIsDark)
+        dark = needs.desktopIsDark();
+    return dark.value_or(QApplication::palette().color(QPalette::Window).lightness() < 128);
+}
+
 } // namespace
 
 ThemedApplication::ThemedApplication(const Needs& needs)
     : m_application(StartUp(needs.onNoDisplay).argumentCount(needs.argc), needs.argv),
       m_language(needs.texts.languageTag()), m_translator(needs.texts),
-      m_pictures(QString::fromStdString(needs.resourceFolder)),
-      m_dark(
-          needs.dark.value_or(QApplication::palette().color(QPalette::Window).lightness() < 128)) {
+      m_pictures(QString::fromStdString(needs.resourceFolder)), m_dark(wantsDark(needs)) {
     Theme::install(m_application, m_dark);
     QApplication::installTranslator(&m_translator);
     // A session ends by its code, not because no window is in sight.

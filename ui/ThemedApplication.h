@@ -24,6 +24,8 @@ class ThemedApplication {
         const ports::LocalizedTexts& texts;
         /// None: as the desktop has it.
         std::optional<bool> dark;
+        /// See GuiFrontEnd.
+        std::function<std::optional<bool>()> desktopIsDark = nullptr;
         /// Called instead of a crash when no display can be opened; does not return.
         std::function<void()> onNoDisplay;
     };

@@ -1,0 +1,2 @@
+// Nothing here: the tests run on another system.
+#pragma once
