@@ -12,18 +12,19 @@ class Applications {
   public:
     virtual ~Applications() = default;
 
-    /// Is at least one application with this bundle identifier running? Letter case counts.
+    /// Is at least one application with this bundle identifier running? Letter case counts where
+    /// the host has no registry of its own that passes over it.
     virtual bool isRunning(std::string_view bundleIdentifier) = 0;
 
     /// The paths of the application bundles with this identifier that the host knows, each once, in
-    /// an order that stays the same; empty for none. Letter case counts. Throws PlatformError where
-    /// the host's registry does.
+    /// an order that stays the same; empty for none. Those that have vanished since may be among
+    /// them. Letter case as above. Throws PlatformError where the host's registry does.
     virtual std::vector<std::string> pathsFor(std::string_view bundleIdentifier) = 0;
 
     /// The paths of the application bundles that open documents like the one at `document`, in
     /// whatever role, each once, in an order that stays the same. None when the host knows no
-    /// application at all for it. The document's kind is told by its name; letter case does not
-    /// count. Never throws.
+    /// application at all for it. The document's kind is told by its name, in which letter case
+    /// does not count; a host may also look at the document, which should be there. Never throws.
     virtual std::optional<std::vector<std::string>> pathsForDocument(std::string_view document) = 0;
 
     /// Starts the application bundle at `path` in a session of its own and does not wait for it.

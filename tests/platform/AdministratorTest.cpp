@@ -1,4 +1,3 @@
-#include <array>
 #include <cerrno>
 #include <filesystem>
 #include <grp.h>
@@ -13,7 +12,10 @@
 #include "platform/posix/FileTextStreams.h"
 #include "platform/posix/SudoAdministrator.h"
 #include "tests/fakes/FakeAdministrator.h"
+#include "tests/support/AdministratorContract.h"
 #include "tests/support/TemporaryFolder.h"
+
+namespace tests {
 
 namespace {
 
@@ -21,14 +23,6 @@ using ports::Administrator;
 using ports::ToolCall;
 using posix::DecidedAdministrator;
 using posix::SudoAdministrator;
-
-std::string readAll(ports::TextStreams& streams, int descriptor) {
-    std::string text;
-    std::array<char, 128> buffer;
-    while (const std::size_t count = streams.read(descriptor, buffer))
-        text.append(buffer.data(), count);
-    return text;
-}
 
 /// A stand-in for sudo that writes down how it was called, one line a call, and runs the command.
 /// A file "refuse" beside it makes it refuse; a file "expired" makes it refuse "-n -v".
@@ -62,8 +56,7 @@ struct SudoHost {
 
 /// The same for a process that is root already.
 struct RootHost : SudoHost {
-    void refuse() {}
-    SudoAdministrator root{{.sudo = folder.path("sudo"), .isRoot = true}};
+    SudoAdministrator administrator{{.sudo = folder.path("sudo"), .isRoot = true}};
 };
 
 struct PretendedHost {
@@ -75,62 +68,12 @@ struct PretendedHost {
         administrator.missing.insert("/no tool");
         return {"/no tool", {}};
     }
-    void refuse() { administrator.rightsError = Administrator::kDenied; }
     fakes::FakeTextStreams streams;
     fakes::FakeAdministrator administrator{streams};
 };
 
-template <class Host>
-Administrator& administratorOf(Host& host) {
-    return host.administrator;
-}
-Administrator& administratorOf(RootHost& host) {
-    return host.root;
-}
-
-template <class Host>
-class AdministratorContract : public testing::Test {
-  protected:
-    Host host;
-    Administrator& administrator = administratorOf(host);
-};
-using Hosts = testing::Types<SudoHost, RootHost, PretendedHost>;
-TYPED_TEST_SUITE(AdministratorContract, Hosts);
-
-TYPED_TEST(AdministratorContract, AStartedToolIsASuccessWhateverBecomesOfIt) {
-    ASSERT_EQ(this->administrator.createSession(), 0);
-    ASSERT_EQ(this->administrator.requestRights(), 0);
-    for (const int exits : {0, 1, 7}) {
-        std::string output;
-        EXPECT_EQ(this->administrator.start(
-                      this->host.toolThatPrints("some text", exits),
-                      [&](int descriptor) { output = readAll(this->host.streams, descriptor); }),
-                  0);
-        EXPECT_EQ(output, "some text");
-    }
-    this->administrator.freeSession();
-}
-
-TYPED_TEST(AdministratorContract, AToolThatIsNotThereIsAnErrorAndNothingIsRead) {
-    ASSERT_EQ(this->administrator.createSession(), 0);
-    ASSERT_EQ(this->administrator.requestRights(), 0);
-    bool read = false;
-    EXPECT_EQ(this->administrator.start(this->host.missingTool(), [&](int) { read = true; }),
-              Administrator::kToolExecuteFailure);
-    EXPECT_FALSE(read);
-}
-
-TYPED_TEST(AdministratorContract, WithoutRightsNothingIsStarted) {
-    ASSERT_EQ(this->administrator.createSession(), 0);
-    bool read = false;
-    const auto reader = [&](int) { read = true; };
-    const ToolCall call = this->host.toolThatPrints("");
-    EXPECT_EQ(this->administrator.start(call, reader), Administrator::kDenied);
-    ASSERT_EQ(this->administrator.requestRights(), 0);
-    this->administrator.freeSession();
-    EXPECT_EQ(this->administrator.start(call, reader), Administrator::kDenied);
-    EXPECT_FALSE(read);
-}
+using AdministratorHosts = testing::Types<SudoHost, RootHost, PretendedHost>;
+INSTANTIATE_TYPED_TEST_SUITE_P(Administrators, AdministratorContract, AdministratorHosts);
 
 class SudoTest : public testing::Test, protected SudoHost {
   protected:
@@ -252,3 +195,5 @@ TEST(DecidedAdministrator, OtherwiseTheHostDecides) {
 }
 
 } // namespace
+
+} // namespace tests

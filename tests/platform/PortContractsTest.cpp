@@ -3,8 +3,6 @@
 #include <gtest/gtest.h>
 #include <memory>
 #include <optional>
-#include <poll.h>
-#include <stdexcept>
 #include <string>
 #include <vector>
 
@@ -17,7 +15,10 @@
 #include "tests/fakes/FakeClock.h"
 #include "tests/fakes/FakeQueues.h"
 #include "tests/fakes/FakeTextStreams.h"
+#include "tests/support/QueuesContract.h"
 #include "tests/support/TemporaryFolder.h"
+
+namespace tests {
 
 namespace {
 
@@ -197,14 +198,7 @@ TYPED_TEST(BundlesContract, TheArraysOfAListOfDictionariesAreGivenOneAfterAnothe
 // --- Queues
 
 struct RealQueues {
-    void runUntilIdle() {
-        while (background.isBusy()) {
-            pollfd waiting{main.descriptor(), POLLIN, 0};
-            ::poll(&waiting, 1, 1);
-            main.runPending();
-        }
-        main.runPending();
-    }
+    void runUntilIdle() { tests::runUntilIdle(main, background); }
     posix::MainQueue main;
     posix::BackgroundQueue background;
 };
@@ -218,54 +212,8 @@ struct PretendedQueues {
     fakes::FakeBackgroundQueue background;
 };
 
-template <class Host>
-class QueuesContract : public testing::Test {
-  protected:
-    Host host;
-    ports::MainQueue& main = host.main;
-    ports::BackgroundQueue& background = host.background;
-};
 using QueueHosts = testing::Types<RealQueues, PretendedQueues>;
-TYPED_TEST_SUITE(QueuesContract, QueueHosts);
-
-TYPED_TEST(QueuesContract, PostedWorkRunsLaterAndInItsOrder) {
-    std::string order;
-    this->main.post([&] { order += "a"; });
-    this->main.post([&] { order += "b"; });
-    EXPECT_EQ(order, "");
-    this->host.runUntilIdle();
-    EXPECT_EQ(order, "ab");
-}
-
-TYPED_TEST(QueuesContract, SyncComesAfterWhatWasPostedBeforeAndReturnsWhenItHasRun) {
-    std::string order;
-    this->background.async([&] {
-        this->main.post([&] { order += "posted "; });
-        this->main.sync([&] { order += "synced "; });
-        order += "after";
-    });
-    EXPECT_TRUE(this->background.isBusy());
-    this->host.runUntilIdle();
-    EXPECT_FALSE(this->background.isBusy());
-    EXPECT_EQ(order, "posted synced after");
-}
-
-TYPED_TEST(QueuesContract, AnExceptionThatLeavesSyncedWorkIsRethrownToTheOneWhoWaits) {
-    std::string caught;
-    this->background.async([&] {
-        try {
-            this->main.sync([] { throw std::runtime_error("no"); });
-        } catch (const std::runtime_error& error) {
-            caught = error.what();
-        }
-    });
-    this->host.runUntilIdle();
-    EXPECT_EQ(caught, "no");
-}
-
-TYPED_TEST(QueuesContract, TheThreadThatMadeTheQueueIsTheMainThread) {
-    EXPECT_TRUE(this->main.isMainThread());
-}
+INSTANTIATE_TYPED_TEST_SUITE_P(Queues, QueuesContract, QueueHosts);
 
 // --- Clock
 
@@ -282,3 +230,5 @@ TYPED_TEST(ClockContract, TheTimeIsOneAfterThisProgramWasBegunAndNeverFarFromThe
 }
 
 } // namespace
+
+} // namespace tests

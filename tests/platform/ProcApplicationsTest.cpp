@@ -21,35 +21,16 @@
 #include "platform/linux/PreferredLanguages.h"
 #include "platform/posix/ChildProcess.h"
 #include "platform/posix/PlistBundles.h"
-#include "tests/fakes/FakeApplications.h"
+#include "tests/support/ComesTrue.h"
+#include "tests/support/RunningProgram.h"
 #include "tests/support/TemporaryFolder.h"
 
 namespace {
 
 namespace fs = std::filesystem;
 using linuxhost::ProcApplications;
-
-/// A program that sleeps until the test is over.
-class Running {
-  public:
-    explicit Running(const std::string& program, std::vector<std::string> arguments = {"60"}) {
-        EXPECT_EQ(m_child.start({.program = program, .arguments = std::move(arguments)}), 0);
-    }
-    ~Running() { ::kill(m_child.pid(), SIGKILL); }
-    pid_t pid() const { return m_child.pid(); }
-
-  private:
-    posix::ChildProcess m_child;
-};
-
-bool comesTrue(const std::function<bool()>& condition) {
-    for (int i = 0; i < 2000; ++i) {
-        if (condition())
-            return true;
-        std::this_thread::sleep_for(std::chrono::milliseconds(5));
-    }
-    return false;
-}
+using tests::comesTrue;
+using Running = tests::RunningProgram;
 
 /// A dictionary that declares the extensions, each in a document type of its own.
 std::string documentTypes(const std::vector<std::string>& extensions) {
@@ -382,95 +363,6 @@ TEST_F(InstalledTest, AFolderThatIsBothTheMachinesAndTheUsersIsSearchedOnce) {
 }
 
 /// The part of the contract that holds without a process: on the real adapter and on the fake.
-struct RealApplications {
-    std::string launchable() {
-        return fs::path(folder.writeProgram("X.app/Contents/MacOS/X", "#!/bin/sh\n"))
-            .parent_path()
-            .parent_path()
-            .parent_path()
-            .string();
-    }
-    std::string absent() { return folder.path("absent.app"); }
-    std::string install() {
-        folder.write("Applications/I.app/Contents/Info.plist",
-                     "<plist version=\"1.0\"><dict><key>CFBundleIdentifier</key>"
-                     "<string>com.example.Installed</string></dict></plist>");
-        return folder.path("Applications/I.app");
-    }
-    std::string installOpener() {
-        folder.write("Applications/O.app/Contents/Info.plist", documentTypes({"enl"}));
-        return folder.path("Applications/O.app");
-    }
-    void run() {
-        folder.write("R.app/Contents/Info.plist",
-                     "<plist version=\"1.0\"><dict><key>CFBundleIdentifier</key>"
-                     "<string>com.example.Run</string></dict></plist>");
-        fs::create_directories(folder.path("R.app/Contents/MacOS"));
-        fs::copy_file("/bin/sleep", folder.path("R.app/Contents/MacOS/R"));
-        running = std::make_unique<Running>(folder.path("R.app/Contents/MacOS/R"));
-    }
-    tests::TemporaryFolder folder;
-    std::unique_ptr<Running> running;
-    posix::PlistBundles bundles{"/bin/true"};
-    ProcApplications applications{{.bundles = bundles, .root = folder.path(), .home = "/"}};
-};
-
-struct PretendedApplications {
-    PretendedApplications() {
-        applications.launchesAll = false;
-        applications.launchable = {launchable()};
-    }
-    std::string launchable() { return "/X.app"; }
-    std::string absent() { return "/absent.app"; }
-    std::string install() {
-        return applications.installed["com.example.Installed"].emplace_back("/I.app");
-    }
-    std::string installOpener() { return applications.openers["enl"].emplace_back("/O.app"); }
-    void run() { applications.running.insert("com.example.Run"); }
-    fakes::FakeApplications applications;
-};
-
-template <class Host>
-class ApplicationsContract : public testing::Test {
-  protected:
-    Host host;
-    ports::Applications& applications = host.applications;
-};
-using ApplicationHosts = testing::Types<RealApplications, PretendedApplications>;
-TYPED_TEST_SUITE(ApplicationsContract, ApplicationHosts);
-
-TYPED_TEST(ApplicationsContract, OnlyWhatRunsIsRunningAndLetterCaseCounts) {
-    EXPECT_FALSE(this->applications.isRunning("com.example.Run"));
-    this->host.run();
-    EXPECT_TRUE(this->applications.isRunning("com.example.Run"));
-    EXPECT_FALSE(this->applications.isRunning("com.example.run"));
-}
-
-TYPED_TEST(ApplicationsContract, WhatIsInstalledIsKnownByItsIdentifierAndLetterCaseCounts) {
-    using Paths = std::vector<std::string>;
-    EXPECT_EQ(this->applications.pathsFor("com.example.Installed"), Paths());
-    const std::string path = this->host.install();
-    EXPECT_EQ(this->applications.pathsFor("com.example.Installed"), Paths({path}));
-    EXPECT_EQ(this->applications.pathsFor("com.example.installed"), Paths());
-    EXPECT_EQ(this->applications.pathsFor(""), Paths());
-}
-
-TYPED_TEST(ApplicationsContract, WithoutAnApplicationForADocumentThereIsNoListAtAll) {
-    using Paths = std::vector<std::string>;
-    EXPECT_EQ(this->applications.pathsForDocument("/tmp/x.enl"), std::nullopt);
-    const std::string path = this->host.installOpener();
-    EXPECT_EQ(this->applications.pathsForDocument("/tmp/x.enl"), Paths({path}));
-    EXPECT_EQ(this->applications.pathsForDocument("/tmp/X.ENL"), Paths({path}));
-    EXPECT_EQ(this->applications.pathsForDocument("/tmp/x.txt"), std::nullopt);
-    EXPECT_EQ(this->applications.pathsForDocument("/tmp/enl"), std::nullopt);
-}
-
-TYPED_TEST(ApplicationsContract, OnlyABundleThatIsThereCanBeLaunched) {
-    EXPECT_TRUE(this->applications.launch(this->host.launchable()));
-    EXPECT_FALSE(this->applications.launch(this->host.absent()));
-    EXPECT_TRUE(comesTrue([] { return ::waitpid(-1, nullptr, WNOHANG) == -1 && errno == ECHILD; }));
-}
-
 TEST(OwnExecutable, ItIsThisProgram) {
     EXPECT_EQ(linuxhost::ownExecutable(), fs::canonical("/proc/self/exe").string());
 }

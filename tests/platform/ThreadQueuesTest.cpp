@@ -12,25 +12,17 @@
 #include <vector>
 
 #include "platform/ports/PlatformError.h"
+#include "tests/support/QueuesContract.h"
 
 namespace {
 
 using posix::BackgroundQueue;
 using posix::MainQueue;
+using tests::runUntilIdle;
 
 bool isReadable(int descriptor) {
     pollfd waiting{descriptor, POLLIN, 0};
     return ::poll(&waiting, 1, 0) == 1;
-}
-
-/// Runs the main queue as a front end's loop does, until `background` has nothing left.
-void runUntilIdle(MainQueue& main, const BackgroundQueue& background) {
-    while (background.isBusy()) {
-        pollfd waiting{main.descriptor(), POLLIN, 0};
-        ::poll(&waiting, 1, 1);
-        main.runPending();
-    }
-    main.runPending();
 }
 
 TEST(MainQueue, TheDescriptorIsReadableExactlyWhileWorkIsPending) {

@@ -12,6 +12,7 @@ CFArrayRef LSCopyApplicationURLsForBundleIdentifier(CFStringRef bundleId, CFErro
     CHECK_AVAILABLE(introduced = 10.10);
 CFArrayRef LSCopyApplicationURLsForURL(CFURLRef url, LSRolesMask roles)
     CHECK_AVAILABLE(introduced = 10.3);
+OSStatus LSRegisterURL(CFURLRef url, Boolean update) CHECK_AVAILABLE(introduced = 10.3);
 struct FSRef {
     UInt8 hidden[80];
 };
