@@ -61,4 +61,6 @@ set(CMAKE_FIND_ROOT_PATH_MODE_PACKAGE ONLY)
 set(CMAKE_PREFIX_PATH "${MACOS_CHECK_SYSTEM}/packages")
 set(ENV{PKG_CONFIG_LIBDIR} "${MACOS_CHECK_SYSTEM}/packages/lib/pkgconfig")
 set(ENV{PKG_CONFIG_PATH} "")
-set(Qt6_DIR "${CMAKE_CURRENT_LIST_DIR}/qt6" CACHE PATH "") # stands in for Qt's own package
+# What stands in for packages that can't be had here.
+set(Qt6_DIR "${CMAKE_CURRENT_LIST_DIR}/qt6" CACHE PATH "")
+set(GTest_DIR "${CMAKE_CURRENT_LIST_DIR}/gtest" CACHE PATH "")
