@@ -10,7 +10,7 @@ build_packages=(
     libgtest-dev libgmock-dev
 )
 # What the tests compare with and run in.
-test_packages=(zip unzip libarchive-tools attr e2fsprogs xvfb xauth xdotool x11-utils sudo procps)
+test_packages=(python3 zip unzip libarchive-tools attr e2fsprogs xvfb xauth xdotool x11-utils sudo procps)
 # A display where there is none, and pictures of it.
 virtual_display_packages=(xvfb xauth xdotool x11-utils imagemagick fonts-noto-cjk)
 
