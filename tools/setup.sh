@@ -10,9 +10,9 @@ build_packages=(
     libgtest-dev libgmock-dev
 )
 # What the tests compare with and run in.
-test_packages=(zip unzip libarchive-tools attr e2fsprogs xvfb xauth xdotool x11-utils sudo procps)
-# What the compile and link check for macOS needs.
-macos_check_packages=(clang-19 lld-19 llvm-19 libc++-19-dev npm python3)
+test_packages=(python3 zip unzip libarchive-tools attr e2fsprogs xvfb xauth xdotool x11-utils sudo procps)
+# What the compile and link check for macOS needs besides.
+macos_check_packages=(clang-19 lld-19 llvm-19 libc++-19-dev npm)
 # A display where there is none, and pictures of it.
 virtual_display_packages=(xvfb xauth xdotool x11-utils imagemagick fonts-noto-cjk)
 

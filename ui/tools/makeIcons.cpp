@@ -5,7 +5,6 @@
 #include <string_view>
 #include <vector>
 
-#include <QBuffer>
 #include <QCoreApplication>
 #include <QImageReader>
 #include <QSaveFile>
@@ -14,18 +13,14 @@
 
 namespace {
 
-QByteArray pngOf(const QString& drawing, int pixels) {
+QImage pictureOf(const QString& drawing, int pixels) {
     QImageReader reader(drawing, "svg");
     reader.setScaledSize({pixels, pixels});
-    const QImage image = reader.read();
-    QByteArray png;
-    QBuffer buffer(&png);
-    if (image.isNull() || !buffer.open(QIODevice::WriteOnly) || !image.save(&buffer, "PNG")) {
+    QImage image = reader.read();
+    if (image.isNull())
         std::fprintf(stderr, "makeIcons: %s: %s (drawings need Qt's SVG image plugin)\n",
                      qPrintable(drawing), qPrintable(reader.errorString()));
-        return {};
-    }
-    return png;
+    return image;
 }
 
 } // namespace
@@ -36,15 +31,19 @@ int main(int argc, char** argv) {
         std::fputs("usage: makeIcons DRAWING.svg -o PICTURE.icns\n", stderr);
         return 2;
     }
-    std::vector<QByteArray> pngs;
+    std::vector<QImage> pictures;
     for (const int pixels : ui::icns::entrySizes()) {
-        pngs.push_back(pngOf(QString::fromLocal8Bit(argv[1]), pixels));
-        if (pngs.back().isEmpty())
+        pictures.push_back(pictureOf(QString::fromLocal8Bit(argv[1]), pixels));
+        if (pictures.back().isNull())
             return 1;
     }
+    const QByteArray icon = ui::icns::container(pictures);
+    if (icon.isEmpty()) {
+        std::fprintf(stderr, "makeIcons: %s: no square pictures can be made of it\n", argv[1]);
+        return 1;
+    }
     QSaveFile file(QString::fromLocal8Bit(argv[3]));
-    if (!file.open(QIODevice::WriteOnly) || file.write(ui::icns::container(pngs)) < 0 ||
-        !file.commit()) {
+    if (!file.open(QIODevice::WriteOnly) || file.write(icon) < 0 || !file.commit()) {
         std::fprintf(stderr, "makeIcons: %s: %s\n", argv[3], qPrintable(file.errorString()));
         return 1;
     }
