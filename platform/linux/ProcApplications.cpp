@@ -18,13 +18,6 @@ namespace fs = std::filesystem;
 
 namespace {
 
-/// Links resolved where the path leads somewhere; processes show resolved paths.
-std::string resolved(const std::string& path) {
-    std::error_code error;
-    const fs::path canonical = fs::canonical(path, error);
-    return error ? path : canonical.string();
-}
-
 bool isProcess(std::string_view name) {
     pid_t pid = 0;
     const auto [end, error] = std::from_chars(name.data(), name.data() + name.size(), pid);
@@ -41,15 +34,8 @@ std::vector<std::string> applicationFolders(const std::string& root, const std::
 } // namespace
 
 ProcApplications::ProcApplications(Needs needs)
-    : m_needs(std::move(needs)), m_identifiers(m_needs.bundles),
-      m_installed(applicationFolders(m_needs.root, m_needs.home)) {
-    if (!m_needs.root.empty())
-        m_needs.root = resolved(m_needs.root);
-}
-
-bool ProcApplications::isBelowRoot(const std::string& bundle) const {
-    return m_needs.root.empty() || resolved(bundle).starts_with(m_needs.root + "/");
-}
+    : m_needs(std::move(needs)), m_root(m_needs.root), m_identifiers(m_needs.bundles),
+      m_installed(applicationFolders(m_needs.root, m_needs.home)) {}
 
 bool ProcApplications::isRunning(std::string_view bundleIdentifier) {
     std::error_code error;
@@ -57,7 +43,7 @@ bool ProcApplications::isRunning(std::string_view bundleIdentifier) {
         if (!isProcess(at->path().filename().native()))
             continue;
         const std::string bundle = bundleOfProcess(at->path().native());
-        if (!bundle.empty() && isBelowRoot(bundle) &&
+        if (!bundle.empty() && m_root.holds(bundle) &&
             m_identifiers.identifierOf(bundle) == bundleIdentifier)
             return true;
     }

@@ -12,6 +12,7 @@
 #include "platform/linux/InstalledBundles.h"
 #include "platform/ports/Applications.h"
 #include "platform/ports/Bundles.h"
+#include "platform/posix/RootFolder.h"
 
 namespace linuxhost {
 
@@ -50,9 +51,9 @@ class ProcApplications final : public ports::Applications {
     /// The installed bundles of which `isWanted` is true, each once.
     std::vector<std::string>
     installedWhere(const std::function<bool(const std::string&)>& isWanted);
-    bool isBelowRoot(const std::string& bundle) const;
 
     Needs m_needs;
+    posix::RootFolder m_root;
     BundleIdentifiers m_identifiers;
     InstalledBundles m_installed;
 };

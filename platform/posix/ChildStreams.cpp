@@ -23,18 +23,40 @@ constexpr int kMeanwhileInterval = 15;
 using Clock = std::chrono::steady_clock;
 using Buffer = std::array<char, 65536>;
 
-/// One read of at most `limit` bytes; closes the stream at its end.
-std::size_t takeSome(ChildStream& stream, Buffer& buffer, std::size_t limit) {
+/// Calls somebody as often as a window has to be drawn.
+class Heartbeat {
+  public:
+    explicit Heartbeat(const std::function<void()>& beat) : m_beat(beat) {}
+
+    void beatWhenDue() {
+        if (!m_beat || Clock::now() < m_next)
+            return;
+        m_beat();
+        m_next = Clock::now() + std::chrono::milliseconds(kMeanwhileInterval);
+    }
+
+  private:
+    const std::function<void()>& m_beat;
+    Clock::time_point m_next = Clock::now();
+};
+
+/// One read of at most `limit` bytes; 0 at the end and after an error.
+std::size_t readSome(int descriptor, Buffer& buffer, std::size_t limit) {
     ssize_t count = 0;
     do
-        count = ::read(stream.reading.number(), buffer.data(), std::min(limit, buffer.size()));
+        count = ::read(descriptor, buffer.data(), std::min(limit, buffer.size()));
     while (count < 0 && errno == EINTR);
-    if (count <= 0) {
+    return count > 0 ? static_cast<std::size_t>(count) : 0;
+}
+
+/// One read of at most `limit` bytes; closes the stream at its end.
+std::size_t takeSome(ChildStream& stream, Buffer& buffer, std::size_t limit) {
+    const std::size_t count = readSome(stream.reading.number(), buffer, limit);
+    if (count > 0)
+        stream.take({buffer.data(), count});
+    else
         stream.reading.close();
-        return 0;
-    }
-    stream.take({buffer.data(), static_cast<std::size_t>(count)});
-    return static_cast<std::size_t>(count);
+    return count;
 }
 
 /// What stands in the pipe now and no more: a process left behind may go on writing for ever.
@@ -56,12 +78,9 @@ int waitTakingIn(ChildProcess& child, std::span<ChildStream> streams,
     const auto watches = [&] { return meanwhile || std::ranges::any_of(streams, open); };
     const Descriptor end = watches() ? watchEnd(child.pid()) : Descriptor();
     std::vector<pollfd> waiting(streams.size() + 1);
-    auto next = Clock::now();
+    Heartbeat heartbeat(meanwhile);
     while (watches()) {
-        if (meanwhile && Clock::now() >= next) {
-            meanwhile();
-            next = Clock::now() + std::chrono::milliseconds(kMeanwhileInterval);
-        }
+        heartbeat.beatWhenDue();
         for (std::size_t i = 0; i < streams.size(); ++i)
             waiting[i] = {streams[i].reading.number(), POLLIN, 0};
         waiting.back() = {end.number(), POLLIN, 0};
@@ -85,6 +104,26 @@ int waitTakingIn(ChildProcess& child, std::span<ChildStream> streams,
     if (meanwhile)
         meanwhile();
     return status;
+}
+
+void takeInToTheEnd(int descriptor, const std::function<void(std::string_view)>& take,
+                    const std::function<void()>& meanwhile) {
+    Buffer buffer;
+    Heartbeat heartbeat(meanwhile);
+    pollfd waiting{descriptor, POLLIN, 0};
+    for (;;) {
+        heartbeat.beatWhenDue();
+        // Only an answer of 0 says that nothing is there yet; after an error the read tells.
+        if (meanwhile && ::poll(&waiting, 1, kMeanwhileInterval) == 0)
+            continue;
+        const std::size_t count = readSome(descriptor, buffer, buffer.size());
+        if (count == 0)
+            break;
+        if (take)
+            take({buffer.data(), count});
+    }
+    if (meanwhile)
+        meanwhile();
 }
 
 } // namespace posix

@@ -1,5 +1,6 @@
-// Waits for a child process and takes in what it writes meanwhile. Ends when the child itself has
-// ended, even if a process that it left behind still holds its pipes.
+// Takes in what a child process writes. With the process at hand the end comes when the child
+// itself has ended, even if a process that it left behind still holds its pipes; without it, when
+// nobody holds the pipe any more.
 #pragma once
 
 #include <functional>
@@ -23,5 +24,23 @@ struct ChildStream {
 /// on this thread every 15 ms or so, and once more when the child has ended.
 int waitTakingIn(ChildProcess& child, std::span<ChildStream> streams,
                  const std::function<void()>& meanwhile = nullptr);
+
+/// Hands over what arrives on `descriptor` until its end or an error, and closes nothing. Calls
+/// `take`, which may be empty, on this thread; what it throws leaves here. `meanwhile` is called as
+/// above, and once more at the end.
+void takeInToTheEnd(int descriptor, const std::function<void(std::string_view)>& take,
+                    const std::function<void()>& meanwhile = nullptr);
+
+/// Reads and throws away what is left on a descriptor, to its end, on every way out of its scope.
+class RestThrownAway {
+  public:
+    explicit RestThrownAway(int descriptor) : m_descriptor(descriptor) {}
+    RestThrownAway(const RestThrownAway&) = delete;
+    RestThrownAway& operator=(const RestThrownAway&) = delete;
+    ~RestThrownAway() { takeInToTheEnd(m_descriptor, nullptr); }
+
+  private:
+    const int m_descriptor;
+};
 
 } // namespace posix

@@ -7,7 +7,7 @@
 #include <utility>
 
 #include "platform/posix/ChildProcess.h"
-#include "platform/posix/Descriptor.h"
+#include "platform/posix/FilledPipe.h"
 #include "platform/posix/ProcessSystem.h"
 
 namespace posix {
@@ -15,7 +15,7 @@ namespace posix {
 class OutputRelay {
   public:
     /// Makes both pipes.
-    OutputRelay() : m_fromChild(makePipe()), m_toReader(makePipe()) {}
+    OutputRelay() : m_fromChild(makePipe()) {}
 
     bool isOpen() const { return m_fromChild.isOpen() && m_toReader.isOpen(); }
 
@@ -32,10 +32,8 @@ class OutputRelay {
               const std::function<void()>& meanwhile = nullptr);
 
   private:
-    void read(const std::function<void(int)>& reader, const std::function<void()>& fill);
-
     Pipe m_fromChild;
-    Pipe m_toReader;
+    FilledPipe m_toReader;
 };
 
 } // namespace posix

@@ -139,33 +139,11 @@ BackgroundQueue::~BackgroundQueue() {
 
 void BackgroundQueue::async(std::function<void()> work) {
     const std::lock_guard lock(m_mutex);
-    m_work.push_back(std::move(work));
-    if (std::exchange(m_running, true))
+    if (!m_work.add(std::move(work)))
         return;
     if (m_thread.joinable())
         m_thread.join(); // it has found nothing left and is on its way out
-    m_thread = std::thread([this] { runAll(); });
-}
-
-bool BackgroundQueue::isBusy() const {
-    const std::lock_guard lock(m_mutex);
-    return m_running;
-}
-
-void BackgroundQueue::runAll() noexcept {
-    for (;;) {
-        std::function<void()> work;
-        {
-            const std::lock_guard lock(m_mutex);
-            if (m_work.empty()) {
-                m_running = false;
-                return;
-            }
-            work = std::move(m_work.front());
-            m_work.pop_front();
-        }
-        work();
-    }
+    m_thread = std::thread([this] { m_work.runAll(); });
 }
 
 } // namespace posix

@@ -9,6 +9,7 @@
 #include <thread>
 
 #include "platform/ports/Queues.h"
+#include "platform/posix/OrderedWork.h"
 #include "platform/posix/ProcessSystem.h"
 
 namespace posix {
@@ -57,14 +58,11 @@ class BackgroundQueue final : public ports::BackgroundQueue {
     ~BackgroundQueue() override;
 
     void async(std::function<void()> work) override;
-    bool isBusy() const override;
+    bool isBusy() const override { return m_work.isBusy(); }
 
   private:
-    void runAll() noexcept;
-
-    mutable std::mutex m_mutex;
-    std::deque<std::function<void()>> m_work;
-    bool m_running = false;
+    OrderedWork m_work;
+    std::mutex m_mutex; ///< of the thread
     std::thread m_thread;
 };
 

@@ -2,6 +2,7 @@
 // CoreFoundation.h.
 #pragma once
 #include <Foundation/Foundation.h>
+#include <sys/types.h>
 #ifdef __OBJC__
 NS_ASSUME_NONNULL_BEGIN
 @interface NSImage : NSObject
@@ -10,6 +11,8 @@ NS_ASSUME_NONNULL_BEGIN
 @interface NSRunningApplication : NSObject
 + (NSArray<NSRunningApplication*>*)runningApplicationsWithBundleIdentifier:
     (NSString*)bundleIdentifier;
+@property(nullable, readonly, copy) NSURL* bundleURL;
+@property(readonly) pid_t processIdentifier;
 @end
 typedef NSUInteger NSWorkspaceIconCreationOptions;
 @interface NSWorkspaceOpenConfiguration : NSObject

@@ -19,6 +19,10 @@ extern "C" {
 #endif
 typedef const void* CFTypeRef;
 typedef signed long CFIndex;
+typedef struct {
+    CFIndex location;
+    CFIndex length;
+} CFRange;
 typedef unsigned long CFTypeID, CFOptionFlags;
 typedef const struct CHECK_BRIDGED(id) __CFAllocator* CFAllocatorRef;
 typedef const struct CHECK_BRIDGED(NSString) __CFString* CFStringRef;
@@ -37,6 +41,9 @@ CFIndex CFArrayGetCount(CFArrayRef a);
 const void* CFArrayGetValueAtIndex(CFArrayRef a, CFIndex i);
 CFStringRef CFStringCreateWithBytes(CFAllocatorRef, const UInt8* bytes, CFIndex n, CFStringEncoding,
                                     Boolean external);
+CFIndex CFStringGetLength(CFStringRef);
+CFIndex CFStringGetBytes(CFStringRef, CFRange, CFStringEncoding, UInt8 lossByte, Boolean external,
+                         UInt8* buffer, CFIndex max, CFIndex* used);
 CFURLRef CFURLCreateFromFileSystemRepresentation(CFAllocatorRef, const UInt8* buf, CFIndex n,
                                                  Boolean isDirectory);
 Boolean CFURLGetFileSystemRepresentation(CFURLRef, Boolean resolveAgainstBase, UInt8* buf,

@@ -18,6 +18,7 @@ enum {
 };
 enum {
     errAuthorizationSuccess = 0,
+    errAuthorizationInvalidRef = -60002,
     errAuthorizationDenied = -60005,
     errAuthorizationCanceled = -60006,
     errAuthorizationToolExecuteFailure = -60031
