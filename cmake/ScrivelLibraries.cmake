@@ -2,7 +2,9 @@
 find_package(Threads REQUIRED)
 find_package(PkgConfig REQUIRED)
 pkg_check_modules(PLIST REQUIRED IMPORTED_TARGET libplist-2.0>=2.2)
-pkg_check_modules(UUID REQUIRED IMPORTED_TARGET uuid)
+if(NOT APPLE) # whose own C library has it
+    pkg_check_modules(UUID REQUIRED IMPORTED_TARGET uuid)
+endif()
 pkg_check_modules(DEFLATE REQUIRED IMPORTED_TARGET libdeflate)
 pkg_check_modules(UTF8PROC REQUIRED IMPORTED_TARGET libutf8proc)
 find_package(nlohmann_json 3.11 REQUIRED)

@@ -11,6 +11,8 @@ build_packages=(
 )
 # What the tests compare with and run in.
 test_packages=(zip unzip libarchive-tools attr e2fsprogs xvfb xauth xdotool x11-utils sudo procps)
+# What the compile and link check for macOS needs.
+macos_check_packages=(clang-19 lld-19 llvm-19 libc++-19-dev npm python3)
 # A display where there is none, and pictures of it.
 virtual_display_packages=(xvfb xauth xdotool x11-utils imagemagick fonts-noto-cjk)
 
@@ -39,14 +41,15 @@ need_packages() {
         apt-get install -q -y --no-install-recommends "${missing[@]}"
 }
 
-# Configures and builds a preset; the release preset's folder is build/.
+# build PRESET [SETTINGS...]: configures and builds it; the release preset's folder is build/.
 build() {
-    say "Building (preset $1)"
-    cmake --preset "$1" >"${TMPDIR:-/tmp}/scrivel-configure.$$" 2>&1 || {
+    local preset=$1
+    say "Building (preset $preset)"
+    cmake --preset "$@" >"${TMPDIR:-/tmp}/scrivel-configure.$$" 2>&1 || {
         cat "${TMPDIR:-/tmp}/scrivel-configure.$$" >&2
         rm -f "${TMPDIR:-/tmp}/scrivel-configure.$$"
         exit 1
     }
     rm -f "${TMPDIR:-/tmp}/scrivel-configure.$$"
-    cmake --build --preset "$1"
+    cmake --build --preset "$preset"
 }

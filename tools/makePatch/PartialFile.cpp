@@ -42,9 +42,9 @@ class SignalsHeldBack {
   public:
     SignalsHeldBack() {
         sigset_t held;
-        ::sigemptyset(&held);
+        sigemptyset(&held); // a macro on some systems
         for (const int signal : kSignals)
-            ::sigaddset(&held, signal);
+            sigaddset(&held, signal);
         ::pthread_sigmask(SIG_BLOCK, &held, &m_before);
     }
     ~SignalsHeldBack() { ::pthread_sigmask(SIG_SETMASK, &m_before, nullptr); }

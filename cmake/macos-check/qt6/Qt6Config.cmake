@@ -4,8 +4,6 @@
 set(Qt6_VERSION_MAJOR 6)
 set(QT_VERSION_MAJOR 6)
 file(GLOB headers "/usr/include/*-linux-gnu/qt6")
-file(STRINGS "${headers}/QtCore/qtcore-config.h" version REGEX "QT_VERSION_STR")
-string(REGEX MATCH "[0-9.]+" Qt6_VERSION "${version}")
 set(Qt6Core_VERSION "${Qt6_VERSION}")
 string(REPLACE "." ";" parts "${Qt6_VERSION}")
 list(GET parts 1 Qt6Core_VERSION_MINOR)
