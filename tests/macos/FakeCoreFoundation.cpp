@@ -53,7 +53,7 @@ CFArrayRef CoreFoundation::newList(const std::vector<CFURLRef>& urls) {
     return made<CFArrayRef>({.members = {urls.begin(), urls.end()}});
 }
 
-CFArrayRef CoreFoundation::newList(const std::vector<CFStringRef>& strings) {
+CFArrayRef CoreFoundation::newTextList(const std::vector<CFStringRef>& strings) {
     return made<CFArrayRef>({.members = {strings.begin(), strings.end()}});
 }
 
