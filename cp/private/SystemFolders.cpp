@@ -8,16 +8,14 @@ namespace Corvaldine::CP::Private {
 
 namespace {
 
-std::string fromEnvironment(const char* name, const char* otherwise) {
-    // Read once, before there are threads that could change it.
-    const char* value = std::getenv(name); // NOLINT(concurrency-mt-unsafe)
-    return value != nullptr && *value != '\0' ? value : otherwise;
+const SystemFolderBases& ownBases() {
+    static const SystemFolderBases own{
+        .root = "", .home = user_home_folder(), .temporary = user_temporary_folder()};
+    return own;
 }
 
 SystemFolderBases& bases() {
-    static SystemFolderBases current{.root = "",
-                                     .home = fromEnvironment("HOME", ""),
-                                     .temporary = fromEnvironment("TMPDIR", "/tmp")};
+    static SystemFolderBases current = ownBases();
     return current;
 }
 
@@ -53,6 +51,15 @@ const SystemFolderBases& system_folder_bases() {
     return bases();
 }
 
+std::string environment_folder(const char* name, const char* otherwise) {
+    // Read once, before there are threads that could change it.
+    const char* value = std::getenv(name); // NOLINT(concurrency-mt-unsafe)
+    std::string folder = value != nullptr && *value != '\0' ? value : otherwise;
+    while (folder.size() > 1 && folder.ends_with('/'))
+        folder.pop_back();
+    return folder;
+}
+
 bool find_folder(FolderDomain domain, FolderType type, std::string& path) {
     for (const Folder& folder : kFolders) {
         if (folder.domain != domain || folder.type != type)
@@ -60,6 +67,8 @@ bool find_folder(FolderDomain domain, FolderType type, std::string& path) {
         const std::string& base = bases().*folder.base;
         if (folder.needsBase && base.empty())
             return false;
+        if (base == ownBases().*folder.base && ask_for_folder(domain, type, path))
+            return true;
         const std::string found = base + folder.path;
         std::error_code error;
         std::filesystem::create_directories(found, error);

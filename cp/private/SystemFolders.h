@@ -1,5 +1,6 @@
 // Where the well-known folders lie. The composition root may set their bases once at start, before
-// anything asks; without that they are read from the environment.
+// anything asks; without that they are the system's own. A file of this name in each system's own
+// folder asks the system.
 #pragma once
 
 #include <cstdint>
@@ -15,8 +16,17 @@ struct SystemFolderBases {
 
 /// For the whole process, from now on. Not to be called once other threads run.
 void set_system_folder_bases(const SystemFolderBases& chosen);
-/// As set; until then an empty root, $HOME, and $TMPDIR or "/tmp".
+/// As set; until then an empty root and what the two functions below say.
 [[nodiscard]] const SystemFolderBases& system_folder_bases();
+
+/// The user's home folder, which need not exist; empty when it isn't known. On Linux $HOME; macOS
+/// is asked for it first, and the list of users last.
+[[nodiscard]] std::string user_home_folder();
+/// The user's temporary folder, without a "/" at its end. On Linux $TMPDIR or "/tmp"; macOS is
+/// asked for it first.
+[[nodiscard]] std::string user_temporary_folder();
+/// A folder that the environment names, without a "/" at its end; `otherwise` when it names none.
+[[nodiscard]] std::string environment_folder(const char* name, const char* otherwise);
 
 /// The domains and types by which a folder is asked for.
 enum class FolderDomain : std::int16_t { user = -32763, local = -32765 };
@@ -28,7 +38,13 @@ using FolderType = std::uint32_t;
     return type;
 }
 
-/// `path` := the folder, made if it is missing; false when it isn't known or can't be made.
+/// `path` := the folder, made if it is missing; false when it isn't known or can't be made. Where
+/// its base is the system's own the system is asked; the table of SystemFolders.cpp counts for all
+/// other bases, and where the system gives no answer.
 [[nodiscard]] bool find_folder(FolderDomain domain, FolderType type, std::string& path);
+
+/// `path` := where the system says that the folder lies; it makes it if it is missing. False when
+/// it says nothing, or has no such answers.
+[[nodiscard]] bool ask_for_folder(FolderDomain domain, FolderType type, std::string& path);
 
 } // namespace Corvaldine::CP::Private

@@ -8,6 +8,7 @@
 #include <sys/stat.h>
 
 #include "cp/private/Catalogue.h"
+#include "cp/private/NodeLock.h"
 
 namespace Corvaldine::CP::Private {
 
@@ -35,9 +36,23 @@ class Removal : public TreeVisitor {
     }
 };
 
+// Nothing of an unfinished copy keeps it from being cleared away: neither its permissions nor its
+// locked flags.
 class Discarding : public Removal {
   public:
-    bool enter(int, const char*, int folder) override { return ::fchmod(folder, S_IRWXU) == 0; }
+    bool enter(int, const char*, int folder) override {
+        unlock(folder, ".");
+        return ::fchmod(folder, S_IRWXU) == 0;
+    }
+    bool entry(int parent, const char* name) override {
+        if (Removal::entry(parent, name))
+            return true;
+        unlock(parent, name);
+        return Removal::entry(parent, name);
+    }
+    static void unlock(int folder, const char* name) {
+        static_cast<void>(set_locked(open_node(folder, name, false), false));
+    }
 };
 
 bool removeTree(const std::string& path, TreeVisitor& removal) {
@@ -163,8 +178,10 @@ bool remove_tree(const std::string& path) {
 
 void discard_tree(const std::string& path) {
     Discarding discarding;
-    ::chmod(path.c_str(), S_IRWXU);
-    removeTree(withoutTrailingSeparators(path), discarding);
+    const std::string tree = withoutTrailingSeparators(path);
+    Discarding::unlock(AT_FDCWD, tree.c_str());
+    ::chmod(tree.c_str(), S_IRWXU);
+    removeTree(tree, discarding);
 }
 
 } // namespace Corvaldine::CP::Private

@@ -55,7 +55,7 @@ class TreeVisitor {
 [[nodiscard]] bool remove_tree(const std::string& path);
 
 /// Clears an unfinished copy away as far as it can be: write-protected folders in it are ours and
-/// are made writable first.
+/// are made writable first, and what is locked is unlocked.
 void discard_tree(const std::string& path);
 
 /// Which file or folder an open descriptor is.

@@ -1,13 +1,24 @@
-// The names of volumes.
+// The volumes that paths lie on. Also used by the composition root, for what the adapters of the
+// platform say of volumes.
 #pragma once
 
 #include <string>
 
 namespace Corvaldine::CP::Private {
 
-/// The name of the volume that holds what the path leads to, UTF-8; empty when the path doesn't
-/// resolve. On macOS the name that the volume was given. On Linux the last component of its mount
-/// point; the one mounted at "/", which has none, is called "File System".
-[[nodiscard]] std::string volume_name(const std::string& path);
+struct Volume {
+    std::string mount_point; ///< begins the path, with its links resolved, of all that lies on it
+    std::string name;        ///< UTF-8
+};
+
+/// The volume that holds what the path leads to; both empty when the path doesn't resolve. On macOS
+/// the name is the one that the volume was given; the volumes of the startup disk are one, mounted
+/// at "/". On Linux it is the last component of the mount point; the volume at "/", which has none,
+/// is called "File System".
+[[nodiscard]] Volume volume_of(const std::string& path);
+
+[[nodiscard]] inline std::string volume_name(const std::string& path) {
+    return volume_of(path).name;
+}
 
 } // namespace Corvaldine::CP::Private

@@ -3,6 +3,7 @@
 #include <CoreServices/CoreServices.h>
 
 #include "platform/macos/CoreFoundationObject.h"
+#include "platform/macos/CoreFoundationText.h"
 
 namespace macoshost {
 
@@ -18,22 +19,6 @@ const UInt8* bytesOf(std::string_view text) {
 
 CFIndex sizeOf(std::string_view text) {
     return static_cast<CFIndex>(text.size());
-}
-
-/// None for what has no form in UTF-8, as a half of a surrogate pair.
-std::optional<std::string> utf8Of(CFStringRef text) {
-    const CFRange all{.location = 0, .length = CFStringGetLength(text)};
-    const auto convert = [&](UInt8* buffer, CFIndex size, CFIndex& used) {
-        return CFStringGetBytes(text, all, kCFStringEncodingUTF8, 0, false, buffer, size, &used) ==
-               all.length;
-    };
-    CFIndex size = 0;
-    if (!convert(nullptr, 0, size))
-        return std::nullopt;
-    std::string utf8(static_cast<std::size_t>(size), '\0');
-    if (!convert(reinterpret_cast<UInt8*>(utf8.data()), size, size))
-        return std::nullopt;
-    return utf8;
 }
 
 std::optional<std::string> pathOf(CFURLRef url) {

@@ -2,18 +2,17 @@
 
 #include <algorithm>
 #include <cerrno>
-#include <cstdlib>
-#include <memory>
 #include <utility>
 
 #include <fcntl.h>
 #include <sys/stat.h>
 #include <unistd.h>
 
-#include "platform/formats/AliasRecord.h"
 #include "platform/formats/AppleDouble.h"
 #include "platform/formats/IconFamily.h"
 #include "platform/formats/ResourceFork.h"
+#include "platform/posix/AliasFiles.h"
+#include "platform/posix/FinderItems.h"
 #include "platform/posix/StagedFile.h"
 
 namespace posix {
@@ -25,8 +24,6 @@ using formats::Bytes;
 using formats::fourCharacters;
 using ports::FinderInformation;
 
-constexpr std::uint32_t kAliasType = fourCharacters("alis");
-constexpr std::int16_t kAliasNumber = 0;
 constexpr std::uint32_t kIconType = fourCharacters("icns");
 constexpr std::int16_t kCustomIconNumber = -16455; // kCustomIconResource of Icons.h
 constexpr const char* kIconFile = "Icon\r";
@@ -34,58 +31,10 @@ constexpr const char* kIconFile = "Icon\r";
 constexpr const char* kRootVolumeName = "File System";
 constexpr off_t kLongestFile = off_t{256} << 20; // what is taken into memory at most
 
-int classicError(int error) {
-    switch (error) {
-    case 0:
-        return 0;
-    case ENOENT:
-    case ENOTDIR:
-        return -43;
-    case EEXIST:
-        return -48;
-    case EACCES:
-    case EPERM:
-    case EROFS:
-        return -61;
-    default:
-        return -36;
-    }
-}
-
 // The answers of a file system, or of its administrator, that has no room for attributes of users.
 bool refusesAttributes(int error) {
     return error == ENOTSUP || error == EOPNOTSUPP || error == ENOSYS || error == EPERM ||
            error == ENOSPC || error == EDQUOT || error == E2BIG;
-}
-
-std::optional<std::string> resolved(const std::string& path) {
-    const std::unique_ptr<char, decltype(&std::free)> real(::realpath(path.c_str(), nullptr),
-                                                           &std::free);
-    if (!real)
-        return std::nullopt;
-    return real.get();
-}
-
-std::string_view nameOf(std::string_view path) {
-    return path.substr(path.rfind('/') + 1);
-}
-
-std::string folderOf(const std::string& path) {
-    const std::size_t slash = path.rfind('/');
-    if (slash == std::string::npos)
-        return ".";
-    return slash == 0 ? "/" : path.substr(0, slash);
-}
-
-// The path whose last part is the item's name: without slashes at its end, and with "." and ".."
-// resolved.
-std::string named(std::string path) {
-    while (path.size() > 1 && path.ends_with('/'))
-        path.pop_back();
-    const std::string_view name = nameOf(path);
-    if (name == "." || name == "..")
-        return resolved(path).value_or(path);
-    return path;
 }
 
 std::string appleDoubleBeside(const std::string& path) {
@@ -124,37 +73,19 @@ std::optional<Bytes> readFile(const std::string& path, Links links) {
     return bytes;
 }
 
-FinderInformation decoded(const FinderBytes& bytes) {
-    const auto number = [&](std::size_t at, std::size_t width) {
-        std::uint32_t value = 0;
-        for (std::size_t i = at; i < at + width; ++i)
-            value = value << 8 | std::to_integer<std::uint32_t>(bytes[i]);
-        return value;
-    };
-    return {number(0, 4), number(4, 4), static_cast<std::uint16_t>(number(8, 2))};
-}
-
-FinderBytes encoded(const FinderInformation& information, FinderBytes rest) {
-    const auto put = [&](std::size_t at, std::size_t width, std::uint32_t value) {
-        for (std::size_t i = at + width; i-- > at; value >>= 8)
-            rest[i] = static_cast<std::byte>(value & 0xFF);
-    };
-    put(0, 4, information.type);
-    put(4, 4, information.creator);
-    put(8, 2, information.flags);
-    return rest;
-}
-
-// The folder where the file system of `path` is mounted: the last one upwards on the same device.
-std::string mountPointOf(std::string path, dev_t device) {
+// Mounted in the last folder upwards on the same device.
+AliasVolume volumeOf(const std::string& path) {
     struct stat facts{};
-    while (path != "/") {
-        const std::string parent = folderOf(path);
-        if (::stat(parent.c_str(), &facts) != 0 || facts.st_dev != device)
-            break;
-        path = parent;
-    }
-    return path;
+    std::string mountPoint = path;
+    if (::stat(path.c_str(), &facts) == 0)
+        for (const dev_t device = facts.st_dev; mountPoint != "/";) {
+            const std::string parent = itemFolder(mountPoint);
+            if (::stat(parent.c_str(), &facts) != 0 || facts.st_dev != device)
+                break;
+            mountPoint = parent;
+        }
+    const std::string name(mountPoint == "/" ? kRootVolumeName : itemName(mountPoint));
+    return {.mountPoint = mountPoint, .name = name};
 }
 
 } // namespace
@@ -204,18 +135,18 @@ int FinderFileStore::replace(const std::string& path, const Kept& kept,
 }
 
 int FinderFileStore::resolve(const std::string& path) {
-    return resolved(path) ? 0 : -43;
+    return realPath(path) ? 0 : -43;
 }
 
 ports::FinderFiles::ReadInformation FinderFileStore::finderInformation(const std::string& path) {
-    const auto real = resolved(path);
+    const auto real = realPath(path);
     if (!real)
         return {.error = -43, .information = {}};
     return {.error = 0, .information = decoded(kept(*real).bytes())};
 }
 
 std::vector<std::byte> FinderFileStore::resourceFork(const std::string& path) {
-    const auto real = resolved(path);
+    const auto real = realPath(path);
     if (!real)
         return {};
     if (Bytes fork = m_calls.readFork(*real); !fork.empty())
@@ -225,51 +156,27 @@ std::vector<std::byte> FinderFileStore::resourceFork(const std::string& path) {
 }
 
 std::vector<std::byte> FinderFileStore::aliasRecord(const std::string& target) {
-    const auto real = resolved(target);
-    struct stat facts{};
-    struct stat parent{};
-    if (!real || ::stat(real->c_str(), &facts) != 0 ||
-        ::stat(folderOf(*real).c_str(), &parent) != 0)
-        return {};
-    const std::string mountPoint = mountPointOf(*real, facts.st_dev);
-    const std::string volumeName(mountPoint == "/" ? kRootVolumeName : nameOf(mountPoint));
-    const bool isVolume = mountPoint == *real;
-    const FinderInformation information = decoded(kept(*real).bytes());
-    return formats::writeAliasRecord(
-        {.kind = S_ISDIR(facts.st_mode) ? formats::AliasTarget::Kind::folder
-                                        : formats::AliasTarget::Kind::file,
-         .volumeName = volumeName,
-         .volumeCreated = formats::secondsSince1904(m_calls.creationTime(mountPoint)),
-         .folderNumber = static_cast<std::uint32_t>(parent.st_ino),
-         .name = isVolume ? volumeName : std::string(nameOf(*real)),
-         .number = static_cast<std::uint32_t>(facts.st_ino),
-         .created = formats::secondsSince1904(m_calls.creationTime(*real)),
-         .type = information.type,
-         .creator = information.creator,
-         .folderName = std::string(nameOf(folderOf(*real))),
-         .path = isVolume ? "/" : real->substr(mountPoint.size()),
-         .mountPoint = mountPoint});
+    return aliasRecordOf(
+        target,
+        {.information = [this](const std::string& path) { return decoded(kept(path).bytes()); },
+         .volume = volumeOf,
+         .creationTime = m_calls.creationTime});
 }
 
 int FinderFileStore::createAliasFile(const std::string& path,
                                      const std::vector<std::byte>& record) {
-    const std::string file = named(path);
+    const std::string file = itemPath(path);
     struct stat facts{};
     if (::lstat(file.c_str(), &facts) == 0 || kept(file).strangerBeside)
         return -48;
     AppleDouble beside;
-    beside.resourceFork = formats::writeResourceFork({{kAliasType, kAliasNumber, "", record}});
+    beside.resourceFork = aliasFork(record);
     StagedFile fork(appleDoubleBeside(file));
     if (const int error = fork.write(formats::writeAppleDouble(beside)))
         return classicError(error);
-    int created = -1;
-    do {
-        // The data fork is empty, so that the file is whole as soon as it has its name.
-        created = ::open(file.c_str(), O_WRONLY | O_CREAT | O_EXCL | O_NOFOLLOW | O_CLOEXEC, 0666);
-    } while (created < 0 && errno == EINTR);
-    if (created < 0)
+    // The data fork is empty, so that the file is whole as soon as it has its name.
+    if (!createEmptyFile(file).isOpen())
         return classicError(errno);
-    ::close(created);
     if (const int error = fork.commit()) {
         ::unlink(file.c_str());
         return classicError(error);
@@ -280,18 +187,15 @@ int FinderFileStore::createAliasFile(const std::string& path,
 
 int FinderFileStore::setFinderInformation(const std::string& path,
                                           const FinderInformation& information) {
-    const std::string item = named(path);
-    struct stat facts{};
-    if (::lstat(item.c_str(), &facts) != 0)
-        return classicError(errno);
-    if (S_ISLNK(facts.st_mode))
-        return classicError(ELOOP);
+    const std::string item = itemPath(path);
+    if (const int error = changeableItem(item))
+        return classicError(error);
     const Kept before = kept(item);
     return classicError(replace(item, before, encoded(information, before.bytes())));
 }
 
 bool FinderFileStore::setFolderIcon(const std::string& folder, const std::string& icnsFile) {
-    const std::string item = named(folder);
+    const std::string item = itemPath(folder);
     struct stat facts{};
     if (::lstat(item.c_str(), &facts) != 0 || !S_ISDIR(facts.st_mode))
         return false;

@@ -1,8 +1,8 @@
 #include "platform/posix/StandardSystemLog.h"
 
-#include <algorithm>
-#include <string>
 #include <syslog.h>
+
+#include "platform/posix/OneLine.h"
 
 namespace posix {
 
@@ -15,10 +15,7 @@ StandardSystemLog::~StandardSystemLog() {
 }
 
 void StandardSystemLog::write(std::string_view text) {
-    std::string line(text);
-    const auto isControl = [](unsigned char c) { return c < 0x20 || c == 0x7F; };
-    std::ranges::replace_if(line, isControl, ' ');
-    ::syslog(LOG_NOTICE, "%s", line.c_str());
+    ::syslog(LOG_NOTICE, "%s", oneLine(text).c_str());
 }
 
 } // namespace posix

@@ -7,7 +7,7 @@ scrivel_test(macfiles_test
     VersionResourceTest.cpp
     LINKS scrivel_macfiles scrivel_cp
 )
-if(TARGET scrivel_finderfiles)
+if(NOT APPLE)
     scrivel_test(finderfiles_test
         FinderFileStoreTest.cpp
         StagedFileTest.cpp

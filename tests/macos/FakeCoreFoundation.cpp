@@ -53,6 +53,10 @@ CFArrayRef CoreFoundation::newList(const std::vector<CFURLRef>& urls) {
     return made<CFArrayRef>({.members = {urls.begin(), urls.end()}});
 }
 
+CFArrayRef CoreFoundation::newTextList(const std::vector<CFStringRef>& strings) {
+    return made<CFArrayRef>({.members = {strings.begin(), strings.end()}});
+}
+
 std::string CoreFoundation::textOf(CFStringRef string) const {
     return objectOf(string).text.value();
 }

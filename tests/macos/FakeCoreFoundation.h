@@ -16,6 +16,7 @@ class CoreFoundation {
     CFStringRef newString(const std::string& utf8, bool broken = false);
     CFURLRef newUrl(const std::optional<std::string>& path, bool broken = false);
     CFArrayRef newList(const std::vector<CFURLRef>& urls);
+    CFArrayRef newTextList(const std::vector<CFStringRef>& strings);
 
     std::string textOf(CFStringRef string) const;
     std::string pathOf(CFURLRef url) const;

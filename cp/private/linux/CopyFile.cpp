@@ -1,11 +1,10 @@
 #include "cp/private/CopyFile.h"
 
-#include <cstddef>
 #include <sys/stat.h>
 #include <utility>
 #include <vector>
 
-#include "cp/private/Catalogue.h"
+#include "cp/private/CopyPlan.h"
 #include "cp/private/TreeWalk.h"
 #include "cp/private/linux/CopyNode.h"
 
@@ -71,32 +70,18 @@ bool copyTree(const std::string& from, int toFolder, const std::string& name,
     return false;
 }
 
-bool liesInside(const std::string& folder, const std::string& tree) {
-    return (folder + "/").starts_with(tree == "/" ? tree : tree + "/");
-}
-
 } // namespace
 
 bool copy_file(const std::string& from, const std::string& to, std::uint32_t flags) {
-    std::string target = to;
-    while (target.size() > 1 && target.back() == '/')
-        target.pop_back();
-    const std::size_t separator = target.rfind('/');
-    const std::string name = separator == std::string::npos ? target : target.substr(separator + 1);
-    FSRef source;
-    FSRef parent;
-    if (path_make_ref(from, source) != kNoError ||
-        path_make_ref(separator == std::string::npos ? "." : target.substr(0, separator + 1),
-                      parent) != kNoError)
+    const auto plan = plan_copy(from, to, flags);
+    if (!plan)
         return false;
-    const FileDescriptor folder(::open(parent.path.c_str(), O_RDONLY | O_DIRECTORY | O_CLOEXEC));
-    CatalogueInfo info;
-    if (!folder.isOpen() || !catalogue_info(source.path, info))
+    const FileDescriptor folder(::open(plan->folder.c_str(), O_RDONLY | O_DIRECTORY | O_CLOEXEC));
+    if (!folder.isOpen())
         return false;
-    if ((info.nodeFlags & kNodeIsDirectory) == 0)
-        return copy_node(AT_FDCWD, source.path.c_str(), folder.number(), name.c_str());
-    return (flags & kCopyRecursive) != 0 && !liesInside(parent.path, source.path) &&
-           copyTree(source.path, folder.number(), name, parent.path + "/" + name);
+    if (plan->isFolder)
+        return copyTree(plan->source, folder.number(), plan->name, plan->target());
+    return copy_node(AT_FDCWD, plan->source.c_str(), folder.number(), plan->name.c_str());
 }
 
 } // namespace Corvaldine::CP::Private

@@ -35,7 +35,7 @@ bool contains(const std::string& mountPoint, const std::string& path) {
 
 } // namespace
 
-std::string volume_name(const std::string& path) {
+Volume volume_of(const std::string& path) {
     FSRef ref;
     if (path_make_ref(path, ref) != kNoError)
         return {};
@@ -52,7 +52,8 @@ std::string volume_name(const std::string& path) {
             best = mountPoint;
     }
     const std::size_t separator = best.rfind('/');
-    return separator == std::string::npos || best == "/" ? kNameOfRoot : best.substr(separator + 1);
+    const bool hasName = separator != std::string::npos && best != "/";
+    return {.mount_point = best, .name = hasName ? best.substr(separator + 1) : kNameOfRoot};
 }
 
 } // namespace Corvaldine::CP::Private

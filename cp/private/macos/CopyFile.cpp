@@ -1,32 +1,93 @@
 #include "cp/private/CopyFile.h"
 
+#include <cerrno>
 #include <copyfile.h>
+#include <memory>
+#include <sys/stat.h>
+#include <type_traits>
 #include <unistd.h>
 
-#include "cp/private/Catalogue.h"
+#include "cp/private/CopyPlan.h"
+#include "cp/private/NodeLock.h"
 #include "cp/private/TreeWalk.h"
 
 namespace Corvaldine::CP::Private {
 
+namespace {
+
 static_assert(kCopyAll == COPYFILE_ALL && kCopyRecursive == COPYFILE_RECURSIVE);
 
-bool copy_file(const std::string& from, const std::string& to, std::uint32_t flags) {
-    const bool isTree = (flags & kCopyRecursive) != 0;
-    FSRef source;
-    FSRef parent;
-    const std::size_t separator = to.find_last_of('/');
-    const std::string folder = separator == std::string::npos ? "." : to.substr(0, separator + 1);
-    if (path_make_ref(from, source) != kNoError || path_make_ref(folder, parent) != kNoError ||
-        (isTree && (parent.path + "/").starts_with(source.path + "/")))
+// Exclusively, so that nothing is ever replaced; and links as links, which in a tree the system
+// would follow. The source's own path has none any more.
+constexpr std::uint32_t kAlways = COPYFILE_EXCL | COPYFILE_NOFOLLOW;
+
+struct Outcome {
+    bool hasBegun = false; ///< something of the copy is there, and it is ours
+    int error = 0;         ///< why it stopped
+
+    bool isOurs() const { return hasBegun || error != EEXIST; }
+};
+
+int note(int, int stage, copyfile_state_t, const char*, const char*, void* context) {
+    auto& outcome = *static_cast<Outcome*>(context);
+    if (stage == COPYFILE_FINISH)
+        outcome.hasBegun = true;
+    if (stage != COPYFILE_ERR)
+        return COPYFILE_CONTINUE;
+    outcome.error = errno;
+    return COPYFILE_QUIT;
+}
+
+struct FreeState {
+    void operator()(copyfile_state_t state) const { ::copyfile_state_free(state); }
+};
+
+bool copyTree(const CopyPlan& plan, std::uint32_t flags, Outcome& outcome) {
+    const std::unique_ptr<std::remove_pointer_t<copyfile_state_t>, FreeState> state(
+        ::copyfile_state_alloc());
+    if (!state ||
+        ::copyfile_state_set(state.get(), COPYFILE_STATE_STATUS_CB,
+                             reinterpret_cast<const void*>(&note)) != 0 ||
+        ::copyfile_state_set(state.get(), COPYFILE_STATE_STATUS_CTX, &outcome) != 0) {
+        outcome.error = EEXIST; // nothing has been done
         return false;
-    // Exclusively: what someone else puts there meanwhile is not ours to clear away.
-    if (::copyfile(source.path.c_str(), to.c_str(), nullptr, flags | COPYFILE_EXCL) == 0)
+    }
+    if (::copyfile(plan.source.c_str(), plan.target().c_str(), state.get(), flags | kAlways) == 0)
         return true;
-    CatalogueInfo info;
-    if (catalogue_info(source.path, info) && (info.nodeFlags & kNodeIsDirectory) != 0)
-        discard_tree(to);
-    else
-        ::unlink(to.c_str());
+    if (outcome.error == 0)
+        outcome.error = errno;
+    return false;
+}
+
+bool copySingle(const CopyPlan& plan, std::uint32_t flags, Outcome& outcome) {
+    const std::uint32_t single = flags & ~kCopyRecursive;
+    if (::copyfile(plan.source.c_str(), plan.target().c_str(), nullptr, single | kAlways) == 0)
+        return true;
+    outcome.error = errno;
+    return false;
+}
+
+// A copy is locked as soon as it is whole, where its source is.
+void discardSingle(const std::string& path) {
+    if (::unlink(path.c_str()) == 0 || !set_locked(open_node(AT_FDCWD, path.c_str(), false), false))
+        return;
+    ::unlink(path.c_str());
+}
+
+} // namespace
+
+bool copy_file(const std::string& from, const std::string& to, std::uint32_t flags) {
+    const auto plan = plan_copy(from, to, flags);
+    struct stat status{};
+    // A tree would go into a folder that is there already.
+    if (!plan || ::lstat(plan->target().c_str(), &status) == 0)
+        return false;
+    Outcome outcome;
+    if (plan->isFolder ? copyTree(*plan, flags, outcome) : copySingle(*plan, flags, outcome))
+        return true;
+    // What someone else has put there meanwhile is not ours to clear away.
+    if (outcome.isOurs())
+        plan->isFolder ? discard_tree(plan->target()) : discardSingle(plan->target());
     return false;
 }
 

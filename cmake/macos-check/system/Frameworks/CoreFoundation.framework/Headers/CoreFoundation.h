@@ -44,6 +44,7 @@ CFStringRef CFStringCreateWithBytes(CFAllocatorRef, const UInt8* bytes, CFIndex 
 CFIndex CFStringGetLength(CFStringRef);
 CFIndex CFStringGetBytes(CFStringRef, CFRange, CFStringEncoding, UInt8 lossByte, Boolean external,
                          UInt8* buffer, CFIndex max, CFIndex* used);
+CFArrayRef CFLocaleCopyPreferredLanguages(void) CHECK_AVAILABLE(introduced = 10.5);
 CFURLRef CFURLCreateFromFileSystemRepresentation(CFAllocatorRef, const UInt8* buf, CFIndex n,
                                                  Boolean isDirectory);
 Boolean CFURLGetFileSystemRepresentation(CFURLRef, Boolean resolveAgainstBase, UInt8* buf,

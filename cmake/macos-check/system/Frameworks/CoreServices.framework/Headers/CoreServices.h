@@ -19,6 +19,7 @@ struct FSRef {
 typedef struct FSRef FSRef;
 typedef SInt16 FSVolumeRefNum;
 enum { kUserDomain = -32763, kLocalDomain = -32765 };
+enum { pathTooLongErr = -2110 };
 OSErr FSFindFolder(FSVolumeRefNum, OSType folderType, Boolean create, FSRef* found)
     CHECK_AVAILABLE(introduced = 10.0, deprecated = 10.8);
 OSStatus FSRefMakePath(const FSRef*, UInt8* path, UInt32 size)

@@ -9,12 +9,19 @@
 #define NS_ASSUME_NONNULL_END _Pragma("clang assume_nonnull end")
 NS_ASSUME_NONNULL_BEGIN
 @class NSString, NSArray<ObjectType>, NSDictionary<KeyType, ObjectType>, NSURL, NSError;
+typedef NSUInteger NSStringEncoding;
+enum : NSStringEncoding { NSUTF8StringEncoding = 4, NSISOLatin1StringEncoding = 5 };
 @interface NSString : NSObject
+- (nullable instancetype)initWithBytes:(const void*)bytes
+                                length:(NSUInteger)len
+                              encoding:(NSStringEncoding)encoding;
+- (BOOL)isEqualToString:(NSString*)aString;
 + (nullable instancetype)stringWithUTF8String:(const char*)s;
 @property(readonly) const char* UTF8String;
 @property(readonly, copy) NSString* stringByDeletingLastPathComponent;
 @end
 @interface NSArray<__covariant ObjectType> : NSObject
++ (instancetype)arrayWithObjects:(const ObjectType _Nonnull[_Nonnull])objects count:(NSUInteger)cnt;
 @property(readonly) NSUInteger count;
 - (ObjectType)objectAtIndex:(NSUInteger)i;
 - (ObjectType)objectAtIndexedSubscript:(NSUInteger)i;
@@ -36,6 +43,7 @@ NS_ASSUME_NONNULL_BEGIN
 @property(nullable, readonly, copy) NSDictionary<NSString*, id>* infoDictionary;
 @property(nullable, readonly, copy) NSString* resourcePath;
 @property(readonly, copy) NSString* bundlePath;
+@property(nullable, readonly, copy) NSString* executablePath;
 @end
 // NS_ENUM in the SDK: a real enumeration, so C++ refuses a bare integer
 typedef enum NSSearchPathDirectory : NSUInteger NSSearchPathDirectory;
@@ -59,5 +67,10 @@ extern "C"
 #endif
     NSString*
     NSTemporaryDirectory(void);
+#if defined(__cplusplus)
+extern "C"
+#endif
+    void
+    NSLog(NSString* format, ...) __attribute__((format(__NSString__, 1, 2)));
 NS_ASSUME_NONNULL_END
 #endif

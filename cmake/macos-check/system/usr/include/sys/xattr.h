@@ -10,8 +10,12 @@ ssize_t getxattr(const char* path, const char* name, void* value, size_t size, u
                  int options);
 int setxattr(const char* path, const char* name, const void* value, size_t size, u_int32_t position,
              int options);
-int removexattr(const char* path, const char* name, int options);
-ssize_t listxattr(const char* path, char* names, size_t size, int options);
+ssize_t fgetxattr(int fd, const char* name, void* value, size_t size, u_int32_t position,
+                  int options);
+int fsetxattr(int fd, const char* name, const void* value, size_t size, u_int32_t position,
+              int options);
+int fremovexattr(int fd, const char* name, int options);
+ssize_t flistxattr(int fd, char* names, size_t size, int options);
 #ifdef __cplusplus
 }
 #endif

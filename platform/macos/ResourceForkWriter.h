@@ -1,0 +1,14 @@
+// Writes resource forks, for the composition root to hand to ForkedFinderFiles. Implemented beside
+// the other calls on extended attributes, in FinderFileCalls.cpp.
+#pragma once
+
+#include <cstddef>
+#include <span>
+
+namespace macoshost {
+
+/// The bytes become the resource fork of the open file, in the place of the one it has; they must
+/// not be none. 0 or an errno value. Any thread.
+int writeResourceFork(int file, std::span<const std::byte> fork);
+
+} // namespace macoshost

@@ -1,0 +1,16 @@
+#pragma once
+#include <cstddef>
+#include <cstdint>
+#include <sys/types.h>
+#define XATTR_NOFOLLOW 0x0001
+#define XATTR_FINDERINFO_NAME "com.apple.FinderInfo"
+#define XATTR_RESOURCEFORK_NAME "com.apple.ResourceFork"
+ssize_t darwinGetxattr(const char* path, const char* name, void* value, std::size_t size,
+                       std::uint32_t position, int options);
+int darwinSetxattr(const char* path, const char* name, const void* value, std::size_t size,
+                   std::uint32_t position, int options);
+int darwinFsetxattr(int file, const char* name, const void* value, std::size_t size,
+                    std::uint32_t position, int options);
+#define getxattr darwinGetxattr
+#define setxattr darwinSetxattr
+#define fsetxattr darwinFsetxattr
