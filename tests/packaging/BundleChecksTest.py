@@ -97,8 +97,8 @@ class TheDictionary(WithCopy):
         self.assert_refused("NSHighResolutionCapable is 1, expected True")
 
     def test_is_refused_with_document_types(self):
-        self.change(lambda info: info.update(CFBundleDocumentTypes=[]))
-        self.assert_refused("CFBundleDocumentTypes must not be there")
+        self.change(lambda info: info.update(UTExportedTypeDeclarations=[]))
+        self.assert_refused("UTExportedTypeDeclarations must not be there")
 
     def test_is_refused_with_a_key_that_nobody_expects(self):
         self.change(lambda info: info.update(LSUIElement=True))
