@@ -107,7 +107,8 @@ INSTANTIATE_TYPED_TEST_SUITE_P(GlobalQueue, QueuesContract, GlobalQueueHost);
 
 struct AuthorizationHost {
     static const char* reasonToSkip() {
-        const char* allowed = std::getenv("SCRIVEL_TEST_AUTHORIZATION");
+        const char* allowed =
+            std::getenv("SCRIVEL_TEST_AUTHORIZATION"); // NOLINT(concurrency-mt-unsafe)
         return allowed && std::string_view(allowed) == "1"
                    ? nullptr
                    : "shows the password prompt; SCRIVEL_TEST_AUTHORIZATION=1 allows it";

@@ -4,10 +4,14 @@
 #include <cstdint>
 #define DISPATCH_QUEUE_PRIORITY_DEFAULT 0
 #define DISPATCH_TIME_FOREVER (~0ull)
-typedef struct dispatch_object_s {}* dispatch_object_t;
-typedef struct dispatch_group_s : public dispatch_object_s {}* dispatch_group_t;
-typedef struct dispatch_queue_s : public dispatch_object_s {}* dispatch_queue_t;
-typedef struct dispatch_queue_global_s : public dispatch_queue_s {}* dispatch_queue_global_t;
+struct dispatch_object_s {};
+struct dispatch_group_s : dispatch_object_s {};
+struct dispatch_queue_s : dispatch_object_s {};
+struct dispatch_queue_global_s : dispatch_queue_s {};
+typedef dispatch_object_s* dispatch_object_t;
+typedef dispatch_group_s* dispatch_group_t;
+typedef dispatch_queue_s* dispatch_queue_t;
+typedef dispatch_queue_global_s* dispatch_queue_global_t;
 typedef void (*dispatch_function_t)(void*);
 typedef std::uint64_t dispatch_time_t;
 extern "C" {
