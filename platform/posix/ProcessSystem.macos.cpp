@@ -36,8 +36,10 @@ Descriptor watchEnd(pid_t pid) {
 
 // The system closes everything that no action has put in place, so `first` follows by itself.
 void closeFrom(posix_spawn_file_actions_t& actions, posix_spawnattr_t& attributes, int first) {
-    for (int standard = STDOUT_FILENO; standard < STDERR_FILENO + 1 && standard < first; ++standard)
-        ::posix_spawn_file_actions_addinherit_np(&actions, standard);
+    for (int standard = STDOUT_FILENO; standard <= STDERR_FILENO && standard < first; ++standard)
+        // One that is closed here would make starting fail; an action has put another there.
+        if (::fcntl(standard, F_GETFD) >= 0)
+            ::posix_spawn_file_actions_addinherit_np(&actions, standard);
     short flags = 0;
     ::posix_spawnattr_getflags(&attributes, &flags);
     ::posix_spawnattr_setflags(&attributes,

@@ -1,5 +1,5 @@
-// Extended attributes of open files, each system's way; implemented once for each system by the
-// file of the same name in its folder. Any thread.
+// Extended attributes of open files, each system's way; all but setAttribute is implemented once
+// for each system by the file of the same name in its folder. Any thread.
 #pragma once
 
 #include <cstddef>
@@ -21,8 +21,11 @@ std::vector<std::string> attributeNames(int file);
 /// None when it is gone or not for this user to see. Throws std::system_error as above.
 std::optional<formats::Bytes> attributeValue(int file, const std::string& name);
 
-/// 0 or an error number.
+/// 0 or an error number. The owner may set it of a write-protected file, too.
 int setAttribute(int file, const std::string& name, std::span<const std::byte> value);
+
+/// The system's own call for it, for setAttribute alone.
+int putAttribute(int file, const std::string& name, std::span<const std::byte> value);
 
 void removeAttribute(int file, const std::string& name);
 

@@ -3,7 +3,6 @@
 #include <array>
 #include <cerrno>
 
-#include <sys/stat.h>
 #include <sys/xattr.h>
 
 #include "tools/files/Descriptor.h"
@@ -55,22 +54,8 @@ std::optional<formats::Bytes> attributeValue(int file, const std::string& name) 
     return value;
 }
 
-int setAttribute(int file, const std::string& name, std::span<const std::byte> value) {
-    const auto set = [&] {
-        return ::fsetxattr(file, name.c_str(), value.data(), value.size(), 0) == 0 ? 0 : errno;
-    };
-    const int error = set();
-    // The kernel asks whether the file may be written, not whether it was opened for writing: a
-    // write-protected one is opened up for as long as it takes.
-    struct stat status{};
-    if (error != EACCES || ::fstat(file, &status) != 0 || (status.st_mode & S_IWUSR) != 0)
-        return error;
-    const mode_t mode = status.st_mode & 07777;
-    if (::fchmod(file, mode | S_IWUSR) != 0)
-        return error;
-    const int second = set();
-    ::fchmod(file, mode);
-    return second;
+int putAttribute(int file, const std::string& name, std::span<const std::byte> value) {
+    return ::fsetxattr(file, name.c_str(), value.data(), value.size(), 0) == 0 ? 0 : errno;
 }
 
 void removeAttribute(int file, const std::string& name) {

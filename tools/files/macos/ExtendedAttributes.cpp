@@ -42,7 +42,7 @@ std::optional<formats::Bytes> attributeValue(int file, const std::string& name) 
     return value;
 }
 
-int setAttribute(int file, const std::string& name, std::span<const std::byte> value) {
+int putAttribute(int file, const std::string& name, std::span<const std::byte> value) {
     return ::fsetxattr(file, name.c_str(), value.data(), value.size(), 0, 0) == 0 ? 0 : errno;
 }
 
