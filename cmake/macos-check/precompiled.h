@@ -1,6 +1,6 @@
-// The headers that most source files of the program include, compiled once for the check: nearly all
-// of its time goes into reading them. The adapters for macOS, which no other build compiles, are
-// compiled without, so that none of them leans on an include that it lacks.
+// The headers that most source files of the program include, compiled once for the check: nearly
+// all of its time goes into reading them. The adapters for macOS, which no other build compiles,
+// are compiled without, so that none of them leans on an include that it lacks.
 #pragma once
 
 #include <algorithm>

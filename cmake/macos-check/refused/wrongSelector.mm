@@ -1,5 +1,5 @@
-// Must be refused: a message that the class does not know. With ACCEPTED it is the right one, so that
-// nothing else can be what the compiler refuses.
+// Must be refused: a message that the class does not know. With ACCEPTED it is the right one, so
+// that nothing else can be what the compiler refuses.
 #import <AppKit/AppKit.h>
 
 #ifdef ACCEPTED
