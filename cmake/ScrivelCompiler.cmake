@@ -26,6 +26,12 @@ add_compile_definitions(_FILE_OFFSET_BITS=64)
 if(NOT APPLE)
     add_compile_definitions(_GNU_SOURCE)
 endif()
+if(APPLE)
+    enable_language(OBJCXX)
+    add_compile_options($<$<COMPILE_LANGUAGE:OBJCXX>:-fobjc-arc>)
+    # Where the packaging puts the libraries, as seen from MacOS and Resources in the bundle.
+    set(CMAKE_BUILD_RPATH "@executable_path/../Frameworks")
+endif()
 if(SCRIVEL_SANITIZE)
     add_compile_options(-fsanitize=${SCRIVEL_SANITIZE} -fno-sanitize-recover=all
                         -fno-omit-frame-pointer -g)

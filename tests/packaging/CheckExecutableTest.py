@@ -13,6 +13,7 @@ CHECK = os.path.realpath(os.path.join(os.path.dirname(__file__),
                                       "../../cmake/macos-check/checkExecutable"))
 SYSTEM = "/usr/lib/libSystem.B.dylib"
 SOME = "/System/Library/Frameworks/Some.framework/Versions/A/Some"
+RPATH = "@executable_path/../Frameworks"
 ARCHITECTURES = ("x86_64", "arm64")
 SOURCE = """
 int take(void);
@@ -51,21 +52,23 @@ class Programs(unittest.TestCase):
             file.write(text)
 
     def expect(self, *, minimum="12.0", libraries=((SYSTEM,), (SOME, "_take"))):
-        lines = [f"minimum {minimum} # the rest is a remark", ""]
+        lines = [f"minimum {minimum} # the rest is a remark", f"rpath {RPATH}", ""]
         for library, *names in libraries:
             lines += [library] + ["    " + name for name in names]
         self.write("expected", "".join(line + "\n" for line in lines))
 
     def run_tool(self, *words):
-        subprocess.run(words, cwd=self.folder, check=True)
+        result = subprocess.run(words, cwd=self.folder, capture_output=True, text=True, check=False)
+        self.assertEqual(result.returncode, 0, result.stderr)
 
-    def make(self, *, compiler=(), linker=(), platform="macos", minimum="12.0", sign="-adhoc_codesign",
-             architectures=ARCHITECTURES, some="Some.tbd"):
+    def make(self, *, target="macos12", compiler=(), linker=(), platform="macos", minimum="12.0",
+             sign="-adhoc_codesign", architectures=ARCHITECTURES, rpaths=(RPATH,), some="Some.tbd"):
+        look_in = [word for rpath in rpaths for word in ("-rpath", rpath)]
         for architecture in architectures:
-            self.run_tool("clang-19", f"--target={architecture}-apple-macos12", "-c", *compiler, "main.c",
+            self.run_tool("clang-19", f"--target={architecture}-apple-{target}", "-c", *compiler, "main.c",
                           "-o", "main.o")
             self.run_tool("ld64.lld-19", "-arch", architecture, "-platform_version", platform, minimum,
-                          "14.0", sign, *linker, "System.tbd", some, "main.o", "-o", architecture)
+                          "14.0", sign, *look_in, *linker, "System.tbd", some, "main.o", "-o", architecture)
         self.run_tool("llvm-lipo-19", "-create", *architectures, "-output", "program")
 
     def check(self):
@@ -109,12 +112,12 @@ class Programs(unittest.TestCase):
 
     def test_for_another_platform_are_refused(self):
         self.expect(minimum="14.0")
-        self.make(platform="mac-catalyst", minimum="14.0")
+        self.make(target="ios14.0-macabi", platform="mac-catalyst", minimum="14.0")
         self.assert_refused("arm64: made for platform 6, not macOS", "x86_64: made for platform 6, not macOS")
 
     def test_that_do_not_say_their_platform_in_today_s_way_are_refused(self):
         self.expect()
-        self.make(minimum="10.12", linker=("-no_fixup_chains",))
+        self.make(target="macos10.12", minimum="10.12", linker=("-no_fixup_chains",))
         status, complaints = self.check()
         self.assertEqual(status, 1)
         self.assertIn("x86_64: made for platform None, not macOS", complaints)
@@ -132,6 +135,14 @@ class Programs(unittest.TestCase):
         self.assert_refused(*(f"{architecture}: {fault}" for architecture in ("arm64", "x86_64")
                               for fault in (f"loads {SOME}, which is not expected",
                                             "does not load /usr/lib/libother.dylib")))
+
+    def test_that_look_for_libraries_elsewhere_are_refused(self):
+        self.expect()
+        for rpaths in ((), (RPATH, "/usr/local/lib"), ("/usr/local/lib",)):
+            with self.subTest(rpaths):
+                self.make(rpaths=rpaths)
+                fault = f"looks for libraries in {list(rpaths)}, not in {RPATH} alone"
+                self.assert_refused(f"arm64: {fault}", f"x86_64: {fault}")
 
     def test_that_load_a_library_only_where_it_is_there_are_refused(self):
         self.make(linker=("-weak_library", "Some.tbd"), some="System.tbd")
@@ -163,9 +174,9 @@ class Programs(unittest.TestCase):
         self.make()
 
         def change(part):
-            at = 0x300  # after the load commands, before the code
-            self.assertEqual(part[at], 0)
-            part[at] = 1
+            reserved = 28  # a field of the header that nobody reads
+            self.assertEqual(part[reserved], 0)
+            part[reserved] = 1
 
         self.change(change)
         self.assert_refused(*["1 pages differ from what the signature says"] * 2)
@@ -197,11 +208,12 @@ class Programs(unittest.TestCase):
 
     def test_are_refused_when_nobody_says_what_is_expected(self):
         self.make()
-        for text in ("", "minimum 12.0\n", SYSTEM + "\n"):
+        whole = ["minimum 12.0\n", f"rpath {RPATH}\n", SYSTEM + "\n"]
+        for text in ("", *("".join(line for line in whole if line != left_out) for left_out in whole)):
             self.write("expected", text)
             status, complaints = self.check()
             self.assertEqual(status, 1)
-            self.assertRegex(complaints[0], "says no minimum system or no library$")
+            self.assertRegex(complaints[0], " lacks the minimum system, the rpath or the libraries$")
 
 
 if __name__ == "__main__":
