@@ -172,7 +172,7 @@ TEST_F(FileModesTest, AFolderIsCopiedWholeWithModesTimesAndLinks) {
     fs::last_write_time(from + "/inner/file", time);
     EXPECT_EQ(dir(OpMode::copy, from, to), 1);
     EXPECT_EQ(tests::treeOf(to), tests::treeOf(from));
-    EXPECT_EQ(fs::last_write_time(to + "/inner/file"), time);
+    EXPECT_TRUE(fs::last_write_time(to + "/inner/file") == time);
     EXPECT_EQ(dir(OpMode::copy, from, to), 0) << "there is one already";
     EXPECT_THAT(stage.run(), IsEmpty());
     EXPECT_THAT(stage.logged(),
