@@ -68,8 +68,8 @@ TEST_F(Files, ACopyHasDataPermissionsTimesAndAttributes) {
     EXPECT_TRUE(read("copy") == data);
     const struct stat status = statusOf(at("copy"));
     EXPECT_EQ(status.st_mode & 07777, 0641u);
-    EXPECT_EQ(std::filesystem::last_write_time(at("copy")),
-              std::filesystem::last_write_time(at("file")));
+    EXPECT_TRUE(std::filesystem::last_write_time(at("copy")) ==
+                std::filesystem::last_write_time(at("file")));
     EXPECT_EQ(status.st_mtime, 1100000000);
 }
 

@@ -18,6 +18,7 @@ write_fake() {
 }
 set_up_fakes() { # NAME...
     stage=$(mktemp -d "${TMPDIR:-/tmp}/scrivel package test.XXXXXX")
+    stage=$(cd "$stage" && pwd -P) # a Mac's TMPDIR ends with a slash and goes through a link
     trap 'rm -rf "$stage"' EXIT
     mkdir -p "$stage/fakes" "$stage/basics" "$stage/tmp folder"
     local tool

@@ -25,12 +25,12 @@ class TerminationSignalsTest : public testing::Test {
     static bool isHeldBack(int signal) {
         sigset_t waiting;
         ::sigpending(&waiting);
-        return ::sigismember(&waiting, signal) == 1;
+        return sigismember(&waiting, signal) == 1;
     }
     static int takeSignal(int signal) {
         sigset_t one;
-        ::sigemptyset(&one);
-        ::sigaddset(&one, signal);
+        sigemptyset(&one);
+        sigaddset(&one, signal);
         int taken = 0;
         ::sigwait(&one, &taken);
         return taken;
