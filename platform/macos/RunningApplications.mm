@@ -18,7 +18,8 @@ std::vector<std::optional<std::string>> bundlesOfRunning(std::string_view bundle
             if (applications[i].processIdentifier == ::getpid())
                 continue;
             NSString* path = applications[i].bundleURL.path;
-            bundles.push_back(path ? std::optional<std::string>(path.UTF8String) : std::nullopt);
+            const char* utf8 = path.UTF8String;
+            bundles.push_back(utf8 ? std::optional<std::string>(utf8) : std::nullopt);
         }
     }
     return bundles;

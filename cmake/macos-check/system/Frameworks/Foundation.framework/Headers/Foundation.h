@@ -17,7 +17,7 @@ enum : NSStringEncoding { NSUTF8StringEncoding = 4, NSISOLatin1StringEncoding = 
                               encoding:(NSStringEncoding)encoding;
 - (BOOL)isEqualToString:(NSString*)aString;
 + (nullable instancetype)stringWithUTF8String:(const char*)s;
-@property(readonly) const char* UTF8String;
+@property(nullable, readonly) const char* UTF8String;
 @property(readonly, copy) NSString* stringByDeletingLastPathComponent;
 @end
 @interface NSArray<__covariant ObjectType> : NSObject
