@@ -248,6 +248,15 @@ TEST_F(AuthorizationServicesTest, WhoeverWaitsIsCalledWhileTheToolRunsAndLosesNo
     EXPECT_GT(called, 1);
 }
 
+TEST_F(AuthorizationServicesTest, WhileSomebodyWaitsTheReaderMayLeaveWhatItLikes) {
+    AuthorizationServices waiting({.whileWaiting = [] {}});
+    grant(waiting);
+    system.output = std::string(1'000'000, 'x'); // more than a pipe holds
+    EXPECT_EQ(waiting.start({"/tool", {}}, ignore), 0);
+    EXPECT_THROW(waiting.start({"/tool", {}}, [](int) { throw std::runtime_error("enough"); }),
+                 std::runtime_error);
+}
+
 TEST_F(AuthorizationServicesTest, WhoeverWaitsIsCalledAgainAndAgainWhileTheToolIsSilent) {
     int called = 0;
     AuthorizationServices waiting({.whileWaiting = [&] {

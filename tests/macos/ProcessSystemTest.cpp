@@ -56,6 +56,9 @@ class ProcessSystemOfMacOs : public testing::Test {
 };
 
 TEST_F(ProcessSystemOfMacOs, AToolInheritsNoPipeAndFindsNoneWhereItsOwnAreToBe) {
+    // The pipe is given two of these numbers, and none of them is what it keeps.
+    const Closed input(STDIN_FILENO);
+    const Closed error(STDERR_FILENO);
     const Closed three(kProgressDescriptor);
     {
         const posix::Pipe pipe = posix::makePipe();
@@ -69,7 +72,8 @@ TEST_F(ProcessSystemOfMacOs, AToolInheritsNoPipeAndFindsNoneWhereItsOwnAreToBe) 
         EXPECT_EQ(::read(pipe.reading.number(), &byte, 1), 1);
         EXPECT_EQ(byte, 'x');
     }
-    EXPECT_EQ(::fcntl(kProgressDescriptor, F_GETFD), -1) << "an end is left open below";
+    for (const int below : {STDIN_FILENO, STDERR_FILENO, kProgressDescriptor})
+        EXPECT_EQ(::fcntl(below, F_GETFD), -1) << below << " is left open";
 }
 
 TEST_F(ProcessSystemOfMacOs, WithoutDescriptorsThereIsNoPipe) {

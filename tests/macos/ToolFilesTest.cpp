@@ -174,6 +174,17 @@ TEST_F(AttributesOfMacOs, ThatHaveBecomeShorterMeanwhileAreAsShort) {
     EXPECT_EQ(tools::attributeValue(7, "a"), formats::Bytes(2, std::byte{'x'}));
 }
 
+TEST_F(AttributesOfMacOs, ThatComeAfterTheQuestionForTheirSizeAreAsTheyWereThen) {
+    int calls = 0;
+    darwin().fgetxattr = [&](const std::string&, void*, std::size_t) {
+        return ssize_t{++calls == 1 ? 0 : 5};
+    };
+    EXPECT_EQ(tools::attributeValue(7, "a"), formats::Bytes());
+    calls = 0;
+    darwin().flistxattr = [&](char*, std::size_t) { return ssize_t{++calls == 1 ? 0 : 5}; };
+    EXPECT_EQ(tools::attributeNames(7), Names());
+}
+
 TEST_F(AttributesOfMacOs, AreWrittenAndTakenAwayUnderTheirOwnNames) {
     Names calls;
     darwin().setxattr = [&](const std::string& where, const std::string& name,

@@ -23,14 +23,11 @@ typedef struct {
     CFIndex location;
     CFIndex length;
 } CFRange;
-typedef unsigned long CFTypeID, CFOptionFlags;
 typedef const struct CHECK_BRIDGED(id) __CFAllocator* CFAllocatorRef;
 typedef const struct CHECK_BRIDGED(NSString) __CFString* CFStringRef;
 typedef const struct CHECK_BRIDGED(NSArray) __CFArray* CFArrayRef;
 typedef const struct CHECK_BRIDGED(NSURL) __CFURL* CFURLRef;
 typedef struct CHECK_BRIDGED(NSError) __CFError* CFErrorRef;
-typedef const struct __CFUUID* CFUUIDRef;
-typedef struct __CFBundle* CFBundleRef;
 typedef UInt32 CFStringEncoding;
 enum { kCFStringEncodingUTF8 = 0x08000100 };
 enum CFURLPathStyle : CFIndex { kCFURLPOSIXPathStyle = 0, kCFURLHFSPathStyle = 1 };
@@ -47,10 +44,7 @@ CFIndex CFStringGetBytes(CFStringRef, CFRange, CFStringEncoding, UInt8 lossByte,
 CFArrayRef CFLocaleCopyPreferredLanguages(void) CHECK_AVAILABLE(introduced = 10.5);
 CFURLRef CFURLCreateFromFileSystemRepresentation(CFAllocatorRef, const UInt8* buf, CFIndex n,
                                                  Boolean isDirectory);
-Boolean CFURLGetFileSystemRepresentation(CFURLRef, Boolean resolveAgainstBase, UInt8* buf,
-                                         CFIndex max);
 CFStringRef CFURLCopyFileSystemPath(CFURLRef, CFURLPathStyle);
-#define CFSTR(s) ((CFStringRef)__builtin___CFStringMakeConstantString("" s ""))
 #if defined(__cplusplus)
 }
 #endif
