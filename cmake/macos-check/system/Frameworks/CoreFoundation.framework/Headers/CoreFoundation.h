@@ -31,7 +31,17 @@ typedef struct CHECK_BRIDGED(NSError) __CFError* CFErrorRef;
 typedef UInt32 CFStringEncoding;
 enum { kCFStringEncodingUTF8 = 0x08000100 };
 enum CFURLPathStyle : CFIndex { kCFURLPOSIXPathStyle = 0, kCFURLHFSPathStyle = 1 };
+typedef double CFTimeInterval;
+// CF_TYPED_EXTENSIBLE_ENUM in the SDK: a plain text
+typedef CFStringRef CFRunLoopMode;
+enum CFRunLoopRunResult : SInt32 {
+    kCFRunLoopRunFinished = 1,
+    kCFRunLoopRunStopped = 2,
+    kCFRunLoopRunTimedOut = 3,
+    kCFRunLoopRunHandledSource = 4
+};
 extern const CFAllocatorRef kCFAllocatorDefault;
+extern const CFRunLoopMode kCFRunLoopDefaultMode;
 void CFRelease(CFTypeRef cf);
 CFTypeRef CFRetain(CFTypeRef cf);
 CFIndex CFArrayGetCount(CFArrayRef a);
@@ -42,6 +52,8 @@ CFIndex CFStringGetLength(CFStringRef);
 CFIndex CFStringGetBytes(CFStringRef, CFRange, CFStringEncoding, UInt8 lossByte, Boolean external,
                          UInt8* buffer, CFIndex max, CFIndex* used);
 CFArrayRef CFLocaleCopyPreferredLanguages(void) CHECK_AVAILABLE(introduced = 10.5);
+CFRunLoopRunResult CFRunLoopRunInMode(CFRunLoopMode mode, CFTimeInterval seconds,
+                                      Boolean returnAfterSourceHandled);
 CFURLRef CFURLCreateFromFileSystemRepresentation(CFAllocatorRef, const UInt8* buf, CFIndex n,
                                                  Boolean isDirectory);
 CFStringRef CFURLCopyFileSystemPath(CFURLRef, CFURLPathStyle);
