@@ -14,7 +14,7 @@ class CoreFoundationObject {
   public:
     CoreFoundationObject() = default;
     /// Takes over the reference that a function with "Create" or "Copy" in its name has given; null
-    /// is "none". What a "Get" function gives belongs to somebody else: see `retained`.
+    /// is "none". What a "Get" function gives belongs to somebody else and is not for this.
     explicit CoreFoundationObject(Ref owned) : m_object(owned) {}
     CoreFoundationObject(CoreFoundationObject&& other) noexcept
         : m_object(std::exchange(other.m_object, nullptr)) {}
@@ -24,13 +24,6 @@ class CoreFoundationObject {
         return *this;
     }
     ~CoreFoundationObject() { release(m_object); }
-
-    /// A reference of our own to an object of somebody else's; null gives none.
-    static CoreFoundationObject retained(Ref borrowed) {
-        if (borrowed)
-            CFRetain(borrowed);
-        return CoreFoundationObject(borrowed);
-    }
 
     /// The object, or null; it stays this owner's.
     Ref get() const { return m_object; }

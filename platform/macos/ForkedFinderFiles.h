@@ -21,7 +21,7 @@ class ForkedFinderFiles final : public ports::FinderFiles {
     struct Needs {
         posix::FinderFileCalls calls; ///< `posix::finderFileCalls()` for the running system
 
-        /// Replaces the resource fork of the open file. 0 or an errno value;
+        /// Writes the resource fork of the open file, which is new. 0 or an errno value;
         /// `macoshost::writeResourceFork` for the running system.
         std::function<int(int file, std::span<const std::byte> fork)> writeFork;
 

@@ -7,8 +7,8 @@
 
 namespace macoshost {
 
-/// The bytes become the resource fork of the open file, in the place of the one it has; they must
-/// not be none. 0 or an errno value. Any thread.
+/// The bytes become the resource fork of the open file, which must have none yet: of a longer one
+/// the rest would stay. They must not be none. 0 or an errno value. Any thread.
 int writeResourceFork(int file, std::span<const std::byte> fork);
 
 } // namespace macoshost

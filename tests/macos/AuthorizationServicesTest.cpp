@@ -180,7 +180,9 @@ TEST_F(AuthorizationServicesTest, WhatTheReaderLeavesIsReadAllTheSame) {
                                  EXPECT_EQ(streams.read(descriptor, some), 10u);
                              }),
               0);
+    services.freeSession(); // what has not been read by now never will be
     EXPECT_TRUE(system.tools.back().wroteAll());
+    grant(services);
     EXPECT_THROW(services.start({"/tool", {}}, [](int) { throw std::runtime_error("enough"); }),
                  std::runtime_error);
     EXPECT_TRUE(system.tools.back().wroteAll());
@@ -244,6 +246,15 @@ TEST_F(AuthorizationServicesTest, WhoeverWaitsIsCalledWhileTheToolRunsAndLosesNo
     system.output = std::string(1'000'000, 'x');
     EXPECT_TRUE(outputOf(waiting, {"/tool", {}}) == system.output);
     EXPECT_GT(called, 1);
+}
+
+TEST_F(AuthorizationServicesTest, WhileSomebodyWaitsTheReaderMayLeaveWhatItLikes) {
+    AuthorizationServices waiting({.whileWaiting = [] {}});
+    grant(waiting);
+    system.output = std::string(1'000'000, 'x'); // more than a pipe holds
+    EXPECT_EQ(waiting.start({"/tool", {}}, ignore), 0);
+    EXPECT_THROW(waiting.start({"/tool", {}}, [](int) { throw std::runtime_error("enough"); }),
+                 std::runtime_error);
 }
 
 TEST_F(AuthorizationServicesTest, WhoeverWaitsIsCalledAgainAndAgainWhileTheToolIsSilent) {

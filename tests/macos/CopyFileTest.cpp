@@ -55,7 +55,7 @@ TEST_F(CopyOfMacOs, OfAFileIsOneCallWithEverythingOfIt) {
         ++calls;
         EXPECT_EQ(from, folder.path("file"));
         EXPECT_EQ(to, folder.path("copy"));
-        EXPECT_EQ(state, nullptr);
+        EXPECT_NE(state, nullptr);
         EXPECT_EQ(flags, 15u | kExclusivelyAndLinksAsLinks);
         fs::copy(from, to);
         return 0;
@@ -175,8 +175,40 @@ TEST_F(CopyOfMacOs, ThatIsLockedAlreadyIsUnlockedAndClearedAway) {
     EXPECT_EQ(written, (std::vector<unsigned>{0x8000, 0x8000})); // the tree and its folder
 }
 
+TEST_F(CopyOfMacOs, LeavesOutAttributesThatAreRefused) {
+    for (const char* from : {"file", "tree"})
+        for (const int error : {ENOTSUP, EPERM, EACCES}) {
+            darwin().copyfile = [&](const std::string& source, const std::string& to,
+                                    DarwinCopyState* state, std::uint32_t) {
+                fs::copy(source, to, fs::copy_options::recursive);
+                EXPECT_TRUE(tell(state, COPYFILE_COPY_XATTR, COPYFILE_START));
+                errno = error;
+                EXPECT_TRUE(tell(state, COPYFILE_COPY_XATTR, COPYFILE_ERR)) << error;
+                return 0;
+            };
+            EXPECT_TRUE(copy(from, "copy", kTree));
+            fs::remove_all(folder.path("copy"));
+        }
+}
+
+TEST_F(CopyOfMacOs, WhoseAttributesFailOtherwiseIsClearedAway) {
+    for (const char* from : {"file", "tree"})
+        for (const int error : {ENOSPC, EIO, EEXIST}) {
+            darwin().copyfile = [&](const std::string& source, const std::string& to,
+                                    DarwinCopyState* state, std::uint32_t) {
+                fs::copy(source, to, fs::copy_options::recursive);
+                errno = error;
+                EXPECT_FALSE(tell(state, COPYFILE_COPY_XATTR, COPYFILE_ERR)) << error;
+                return failWith(ECANCELED);
+            };
+            EXPECT_FALSE(copy(from, "copy", kTree));
+            EXPECT_FALSE(fs::exists(folder.path("copy"))) << from << error;
+        }
+}
+
 TEST_F(CopyOfMacOs, WithoutMemoryIsNotBegun) {
     darwin().refusesCopyState = true;
+    EXPECT_FALSE(copy("file", "copy", kCopyAll));
     EXPECT_FALSE(copy("tree", "copy", kTree));
     EXPECT_EQ(folder.names(), (Names{"file", "tree"}));
 }

@@ -4,10 +4,15 @@
 #include <cerrno>
 
 // From here on this system's own, and the fields of the fake.
+#undef fcntl
 #undef fstat
+#undef fsync
 #undef lstat
+#undef posix_spawnattr_setflags
 #undef stat
 #undef statfs
+
+#include <gtest/gtest.h>
 
 using fakes::darwin;
 
@@ -109,4 +114,82 @@ int copyfile_state_set(copyfile_state_t state, std::uint32_t flag, const void* v
 
 int copyfile(const char* from, const char* to, copyfile_state_t state, copyfile_flags_t flags) {
     return darwin().copyfile(from, to, state, flags);
+}
+
+int fcopyfile(int from, int to, copyfile_state_t state, copyfile_flags_t flags) {
+    EXPECT_EQ(state, nullptr);
+    return darwin().fcopyfile(from, to, flags);
+}
+
+ssize_t darwinFgetxattr(int, const char* name, void* value, std::size_t size,
+                        std::uint32_t position, int options) {
+    EXPECT_EQ(position, 0u);
+    EXPECT_EQ(options, 0);
+    return darwin().fgetxattr(name, value, size);
+}
+
+ssize_t darwinFlistxattr(int, char* names, std::size_t size, int options) {
+    EXPECT_EQ(options, 0);
+    return darwin().flistxattr(names, size);
+}
+
+int darwinFremovexattr(int file, const char* name, int options) {
+    return darwin().fremovexattr(file, name, options);
+}
+
+int renamex_np(const char* from, const char* to, unsigned flags) {
+    return darwin().rename(AT_FDCWD, from, AT_FDCWD, to, flags);
+}
+
+int renameatx_np(int fromFolder, const char* from, int toFolder, const char* to, unsigned flags) {
+    return darwin().rename(fromFolder, from, toFolder, to, flags);
+}
+
+namespace fakes {
+namespace {
+
+int flush(const std::string& how, int file, bool refuses) {
+    darwin().flushed.push_back(how + " " + std::to_string(file));
+    errno = refuses ? ENOTSUP : errno;
+    return refuses ? -1 : 0;
+}
+
+} // namespace
+} // namespace fakes
+
+int darwinFsync(int file) {
+    return fakes::flush("fsync", file, darwin().refusesFlush);
+}
+
+int darwinFcntl(int file, int command, long argument) {
+    return command == F_FULLFSYNC ? fakes::flush("full", file, darwin().refusesFullFlush)
+                                  : ::fcntl(file, command, argument);
+}
+
+int proc_pidpath(int pid, void* buffer, std::uint32_t size) {
+    return darwin().procPidpath(pid, static_cast<char*>(buffer), size);
+}
+
+int kqueue() {
+    errno = EMFILE;
+    return darwin().refusesQueue ? -1 : ::open("/dev/null", O_RDONLY);
+}
+
+int kevent(int queue, const struct kevent* changes, int changeCount, struct kevent* events,
+           int eventCount, const timespec* timeout) {
+    EXPECT_EQ(changeCount, 1);
+    EXPECT_EQ(events, nullptr);
+    EXPECT_EQ(eventCount, 0);
+    EXPECT_EQ(timeout, nullptr);
+    return darwin().kevent(queue, *changes);
+}
+
+int posix_spawn_file_actions_addinherit_np(posix_spawn_file_actions_t*, int file) {
+    darwin().inherited.push_back(file);
+    return 0;
+}
+
+int darwinSpawnattrSetflags(posix_spawnattr_t*, short flags) {
+    darwin().spawnFlags = flags;
+    return 0;
 }

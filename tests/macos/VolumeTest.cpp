@@ -50,7 +50,7 @@ class VolumeOfMacOs : public testing::Test {
         std::string bytes(12, '\0');
         bytes += std::string(gap, '#') + *name + '\0';
         const std::uint32_t length =
-            static_cast<std::uint32_t>(std::min(size, (bytes.size() + 3) / 4 * 4));
+            says.value_or(static_cast<std::uint32_t>(std::min(size, (bytes.size() + 3) / 4 * 4)));
         const std::int32_t offset = startsAt.value_or(static_cast<std::int32_t>(8 + gap));
         const auto nameLength = static_cast<std::uint32_t>(name->size() + 1);
         std::memcpy(bytes.data(), &length, 4);
@@ -65,6 +65,7 @@ class VolumeOfMacOs : public testing::Test {
     std::optional<std::string> name = "Macintosh HD";
     std::size_t gap = 0;
     std::optional<std::int32_t> startsAt;
+    std::optional<std::uint32_t> says; ///< the length of all, where it is not what was given
     int statfsError = 0;
     std::vector<std::string> asked;
     std::vector<std::string> named;
@@ -123,6 +124,11 @@ TEST_F(VolumeOfMacOs, TheLongestNameIsWhole) {
 TEST_F(VolumeOfMacOs, ANameThatIsCutOffIsNotReadPastTheAnswer) {
     name = std::string(5000, 'n');
     EXPECT_EQ(volume_of("/").name, std::string(768, 'n'));
+}
+
+TEST_F(VolumeOfMacOs, ANameEndsWithTheAnswerWhateverItsOwnLengthSays) {
+    says = 12 + 9;
+    EXPECT_EQ(volume_of("/").name, "Macintosh");
 }
 
 TEST_F(VolumeOfMacOs, AnAnswerThatPointsOutsideItselfGivesTheMountPointsName) {

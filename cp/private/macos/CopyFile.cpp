@@ -28,11 +28,19 @@ struct Outcome {
     bool isOurs() const { return hasBegun || error != EEXIST; }
 };
 
-int note(int, int stage, copyfile_state_t, const char*, const char*, void* context) {
+/// What the target's file system can't hold, or the user may not set.
+bool isLeftOut(int error) {
+    return error == ENOTSUP || error == EPERM || error == EACCES;
+}
+
+// Where nobody is asked an attribute that is refused ends the copy, and there are some that the
+// system keeps to itself.
+int note(int what, int stage, copyfile_state_t, const char*, const char*, void* context) {
     auto& outcome = *static_cast<Outcome*>(context);
-    if (stage == COPYFILE_FINISH)
+    const bool isAttribute = what == COPYFILE_COPY_XATTR;
+    if (isAttribute || stage == COPYFILE_FINISH)
         outcome.hasBegun = true;
-    if (stage != COPYFILE_ERR)
+    if (stage != COPYFILE_ERR || (isAttribute && isLeftOut(errno)))
         return COPYFILE_CONTINUE;
     outcome.error = errno;
     return COPYFILE_QUIT;
@@ -42,7 +50,7 @@ struct FreeState {
     void operator()(copyfile_state_t state) const { ::copyfile_state_free(state); }
 };
 
-bool copyTree(const CopyPlan& plan, std::uint32_t flags, Outcome& outcome) {
+bool copyAll(const CopyPlan& plan, std::uint32_t flags, Outcome& outcome) {
     const std::unique_ptr<std::remove_pointer_t<copyfile_state_t>, FreeState> state(
         ::copyfile_state_alloc());
     if (!state ||
@@ -56,14 +64,6 @@ bool copyTree(const CopyPlan& plan, std::uint32_t flags, Outcome& outcome) {
         return true;
     if (outcome.error == 0)
         outcome.error = errno;
-    return false;
-}
-
-bool copySingle(const CopyPlan& plan, std::uint32_t flags, Outcome& outcome) {
-    const std::uint32_t single = flags & ~kCopyRecursive;
-    if (::copyfile(plan.source.c_str(), plan.target().c_str(), nullptr, single | kAlways) == 0)
-        return true;
-    outcome.error = errno;
     return false;
 }
 
@@ -83,7 +83,7 @@ bool copy_file(const std::string& from, const std::string& to, std::uint32_t fla
     if (!plan || ::lstat(plan->target().c_str(), &status) == 0)
         return false;
     Outcome outcome;
-    if (plan->isFolder ? copyTree(*plan, flags, outcome) : copySingle(*plan, flags, outcome))
+    if (copyAll(*plan, plan->isFolder ? flags : flags & ~kCopyRecursive, outcome))
         return true;
     // What someone else has put there meanwhile is not ours to clear away.
     if (outcome.isOurs())

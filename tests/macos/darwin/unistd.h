@@ -6,5 +6,7 @@
 std::size_t darwinConfstr(int name, char* buffer, std::size_t size);
 int darwinGetattrlist(const char* path, void* wanted, void* answer, std::size_t size,
                       unsigned options);
+int darwinFsync(int file);
 #define confstr darwinConfstr
 #define getattrlist darwinGetattrlist
+#define fsync darwinFsync

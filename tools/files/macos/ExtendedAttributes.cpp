@@ -35,6 +35,9 @@ std::optional<formats::Bytes> attributeValue(int file, const std::string& name) 
     if (room < 0 && saysNone(errno))
         return std::nullopt;
     formats::Bytes value(static_cast<std::size_t>(checked(room)));
+    // Without room the next call would be the same question once more.
+    if (room == 0)
+        return value;
     const ssize_t length = ::fgetxattr(file, name.c_str(), value.data(), value.size(), 0, 0);
     if (length < 0 && saysNone(errno))
         return std::nullopt;

@@ -37,21 +37,12 @@ extern __kindof NSApplication* _Null_unspecified NSApp;
 @property(readonly) pid_t processIdentifier;
 @end
 typedef NSUInteger NSWorkspaceIconCreationOptions;
-@interface NSWorkspaceOpenConfiguration : NSObject
-+ (instancetype)configuration;
-@property BOOL activates;
-@end
 @interface NSWorkspace : NSObject
 @property(class, readonly, strong) NSWorkspace* sharedWorkspace;
 - (BOOL)setIcon:(nullable NSImage*)image
         forFile:(NSString*)fullPath
         options:(NSWorkspaceIconCreationOptions)options;
 - (BOOL)launchApplication:(NSString*)appName CHECK_AVAILABLE(introduced = 10.0, deprecated = 11.0);
-- (void)openApplicationAtURL:(NSURL*)applicationURL
-               configuration:(NSWorkspaceOpenConfiguration*)configuration
-           completionHandler:(void (^_Nullable)(NSRunningApplication* _Nullable app,
-                                                NSError* _Nullable error))completionHandler
-    CHECK_AVAILABLE(introduced = 10.15);
 @end
 NS_ASSUME_NONNULL_END
 #endif

@@ -23,18 +23,25 @@ typedef struct {
     CFIndex location;
     CFIndex length;
 } CFRange;
-typedef unsigned long CFTypeID, CFOptionFlags;
 typedef const struct CHECK_BRIDGED(id) __CFAllocator* CFAllocatorRef;
 typedef const struct CHECK_BRIDGED(NSString) __CFString* CFStringRef;
 typedef const struct CHECK_BRIDGED(NSArray) __CFArray* CFArrayRef;
 typedef const struct CHECK_BRIDGED(NSURL) __CFURL* CFURLRef;
 typedef struct CHECK_BRIDGED(NSError) __CFError* CFErrorRef;
-typedef const struct __CFUUID* CFUUIDRef;
-typedef struct __CFBundle* CFBundleRef;
 typedef UInt32 CFStringEncoding;
 enum { kCFStringEncodingUTF8 = 0x08000100 };
 enum CFURLPathStyle : CFIndex { kCFURLPOSIXPathStyle = 0, kCFURLHFSPathStyle = 1 };
+typedef double CFTimeInterval;
+// CF_TYPED_EXTENSIBLE_ENUM in the SDK: a plain text
+typedef CFStringRef CFRunLoopMode;
+enum CFRunLoopRunResult : SInt32 {
+    kCFRunLoopRunFinished = 1,
+    kCFRunLoopRunStopped = 2,
+    kCFRunLoopRunTimedOut = 3,
+    kCFRunLoopRunHandledSource = 4
+};
 extern const CFAllocatorRef kCFAllocatorDefault;
+extern const CFRunLoopMode kCFRunLoopDefaultMode;
 void CFRelease(CFTypeRef cf);
 CFTypeRef CFRetain(CFTypeRef cf);
 CFIndex CFArrayGetCount(CFArrayRef a);
@@ -45,12 +52,11 @@ CFIndex CFStringGetLength(CFStringRef);
 CFIndex CFStringGetBytes(CFStringRef, CFRange, CFStringEncoding, UInt8 lossByte, Boolean external,
                          UInt8* buffer, CFIndex max, CFIndex* used);
 CFArrayRef CFLocaleCopyPreferredLanguages(void) CHECK_AVAILABLE(introduced = 10.5);
+CFRunLoopRunResult CFRunLoopRunInMode(CFRunLoopMode mode, CFTimeInterval seconds,
+                                      Boolean returnAfterSourceHandled);
 CFURLRef CFURLCreateFromFileSystemRepresentation(CFAllocatorRef, const UInt8* buf, CFIndex n,
                                                  Boolean isDirectory);
-Boolean CFURLGetFileSystemRepresentation(CFURLRef, Boolean resolveAgainstBase, UInt8* buf,
-                                         CFIndex max);
 CFStringRef CFURLCopyFileSystemPath(CFURLRef, CFURLPathStyle);
-#define CFSTR(s) ((CFStringRef)__builtin___CFStringMakeConstantString("" s ""))
 #if defined(__cplusplus)
 }
 #endif
