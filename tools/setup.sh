@@ -42,15 +42,18 @@ need_packages() {
         apt-get install -q -y --no-install-recommends "${missing[@]}"
 }
 
-# build PRESET [SETTINGS...]: configures and builds it; the release preset's folder is build/.
+# build PRESET [SETTINGS...] [-- TARGETS...]: configures it and builds all, or the targets; the release
+# preset's folder is build/.
 build() {
-    local preset=$1
+    local preset=$1 settings=()
+    while [ $# -gt 0 ] && [ "$1" != -- ]; do settings+=("$1"); shift; done
+    [ $# -eq 0 ] || shift
     say "Building (preset $preset)"
-    cmake --preset "$@" >"${TMPDIR:-/tmp}/scrivel-configure.$$" 2>&1 || {
+    cmake --preset "${settings[@]}" >"${TMPDIR:-/tmp}/scrivel-configure.$$" 2>&1 || {
         cat "${TMPDIR:-/tmp}/scrivel-configure.$$" >&2
         rm -f "${TMPDIR:-/tmp}/scrivel-configure.$$"
         exit 1
     }
     rm -f "${TMPDIR:-/tmp}/scrivel-configure.$$"
-    cmake --build --preset "$preset"
+    cmake --build --preset "$preset" ${1+--target "$@"}
 }
