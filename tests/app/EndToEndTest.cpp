@@ -248,10 +248,10 @@ struct RunningApplication : EndToEnd {
                  fs::copy_options::recursive | fs::copy_options::copy_symlinks);
         const std::string program =
             (root / "Applications/Elsewhere/Scrivel 21.app/Contents/MacOS/Scrivel 21").string();
-        application = std::thread([program, seconds] {
+        application = std::thread([program, seconds, own = (folder / "else").string()] {
             posix::SpawnedTools tools({});
             (void)tools.capture(
-                {"/usr/bin/env", {"HOME=/nonexistent", "SCRIVEL_SAMPLE_STAY=" + seconds, program}});
+                {"/usr/bin/env", {"HOME=" + own, "SCRIVEL_SAMPLE_STAY=" + seconds, program}});
         });
         std::this_thread::sleep_for(std::chrono::milliseconds(300));
     }
