@@ -1,6 +1,6 @@
 # Precompiled headers for the check; see precompiled.h. A library uses the window's where it is the
 # window.
-file(WRITE "${CMAKE_BINARY_DIR}/precompiled.cpp" "")
+file(CONFIGURE OUTPUT "${CMAKE_BINARY_DIR}/precompiled.cpp" CONTENT "")
 add_library(scrivel_precompiled OBJECT "${CMAKE_BINARY_DIR}/precompiled.cpp")
 target_precompile_headers(scrivel_precompiled PRIVATE "${CMAKE_CURRENT_LIST_DIR}/precompiled.h")
 if(SCRIVEL_UI)
