@@ -18,10 +18,8 @@
 
 namespace app {
 
-/// The current user's home folder, which need not exist; empty when it isn't known.
-std::string homeFolder();
-
-/// The user's languages as locale names ("de_AT.UTF-8"), the dearest first; empty: English.
+/// The user's languages, the dearest first, as the system writes them: locale names
+/// ("de_AT.UTF-8") or language tags ("de-AT"); empty: English.
 std::vector<std::string> preferredLanguages();
 
 /// Can a window be shown?

@@ -17,11 +17,6 @@
 
 namespace app {
 
-std::string homeFolder() {
-    const char* home = std::getenv("HOME"); // NOLINT(concurrency-mt-unsafe)
-    return home ? home : "";
-}
-
 std::vector<std::string> preferredLanguages() {
     return linuxhost::preferredLanguages();
 }

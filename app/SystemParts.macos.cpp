@@ -2,7 +2,6 @@
 
 #include <utility>
 
-#include "cp/private/SystemFolders.h"
 #include "cp/private/Volume.h"
 #include "platform/macos/Appearance.h"
 #include "platform/macos/AuthorizationServices.h"
@@ -26,10 +25,6 @@ posix::AliasVolume volumeOf(const std::string& path) {
 }
 
 } // namespace
-
-std::string homeFolder() {
-    return Corvaldine::CP::Private::user_home_folder();
-}
 
 std::vector<std::string> preferredLanguages() {
     return macoshost::preferredLanguages();

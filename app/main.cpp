@@ -8,6 +8,7 @@
 #include "app/CompositionRoot.h"
 #include "app/SystemParts.h"
 #include "app/WindowFrontEnd.h"
+#include "cp/private/SystemFolders.h"
 #include "platform/ports/Bundles.h"
 
 namespace {
@@ -25,7 +26,8 @@ int main(int argc, char** argv) {
     std::signal(SIGPIPE, SIG_IGN);
     if (std::string_view(argv[0]).ends_with("scrivel-askpass"))
         return askPassword(argc, argv);
-    const auto parsed = app::parseCommandLine({argv + 1, argv + argc}, app::homeFolder());
+    const auto parsed =
+        app::parseCommandLine({argv + 1, argv + argc}, Corvaldine::CP::Private::user_home_folder());
     std::cout << parsed.output << std::flush;
     std::cerr << parsed.error << std::flush;
     if (!parsed.options)
